@@ -1,0 +1,201 @@
+/*
+ * The kernel interface that liborv is written against: the subset of the
+ * platform's KERNEL32 that the library calls, with the platform's types,
+ * calling convention (stdcall), constants and failure answers.
+ *
+ * On i386 Linux the functions come from libkernel32.so (platform/linux/).
+ * Usable from C and C++.
+ */
+#ifndef ORV_PLATFORM_KERNEL32_H
+#define ORV_PLATFORM_KERNEL32_H
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+#define WINAPI __attribute__((stdcall))
+#define K32_API __attribute__((visibility("default")))
+
+typedef void *HANDLE;
+typedef void *LPVOID;
+typedef const void *LPCVOID;
+typedef unsigned long DWORD;
+typedef DWORD *LPDWORD;
+typedef long LONG;
+typedef LONG *PLONG;
+typedef int BOOL;
+typedef unsigned long SIZE_T;
+typedef unsigned short WORD;
+typedef unsigned int UINT;
+typedef char *LPSTR;
+typedef const char *LPCSTR;
+
+#define INVALID_HANDLE_VALUE ((HANDLE)-1)
+#define INVALID_SET_FILE_POINTER ((DWORD)-1)
+
+/* Standard handles */
+#define STD_INPUT_HANDLE ((DWORD)-10)
+#define STD_OUTPUT_HANDLE ((DWORD)-11)
+#define STD_ERROR_HANDLE ((DWORD)-12)
+
+/* CreateFileA */
+#define GENERIC_READ 0x80000000UL
+#define GENERIC_WRITE 0x40000000UL
+#define FILE_SHARE_READ 0x1
+#define FILE_SHARE_WRITE 0x2
+#define CREATE_NEW 1
+#define CREATE_ALWAYS 2
+#define OPEN_EXISTING 3
+#define OPEN_ALWAYS 4
+#define TRUNCATE_EXISTING 5
+#define FILE_ATTRIBUTE_NORMAL 0x80
+
+/* SetFilePointer move methods */
+#define FILE_BEGIN 0
+#define FILE_CURRENT 1
+#define FILE_END 2
+
+/* GetFileType */
+#define FILE_TYPE_UNKNOWN 0
+#define FILE_TYPE_DISK 1
+#define FILE_TYPE_CHAR 2
+#define FILE_TYPE_PIPE 3
+
+/* Heap flags */
+#define HEAP_NO_SERIALIZE 0x1
+#define HEAP_GENERATE_EXCEPTIONS 0x4
+#define HEAP_ZERO_MEMORY 0x8
+#define HEAP_REALLOC_IN_PLACE_ONLY 0x10
+
+/* GetLastError codes */
+#define ERROR_SUCCESS 0
+#define ERROR_INVALID_FUNCTION 1
+#define ERROR_FILE_NOT_FOUND 2
+#define ERROR_PATH_NOT_FOUND 3
+#define ERROR_TOO_MANY_OPEN_FILES 4
+#define ERROR_ACCESS_DENIED 5
+#define ERROR_INVALID_HANDLE 6
+#define ERROR_NOT_ENOUGH_MEMORY 8
+#define ERROR_WRITE_FAULT 29
+#define ERROR_READ_FAULT 30
+#define ERROR_SHARING_VIOLATION 32
+#define ERROR_HANDLE_EOF 38
+#define ERROR_NOT_SUPPORTED 50
+#define ERROR_FILE_EXISTS 80
+#define ERROR_INVALID_PARAMETER 87
+#define ERROR_BROKEN_PIPE 109
+#define ERROR_DISK_FULL 112
+#define ERROR_NEGATIVE_SEEK 131
+#define ERROR_DIR_NOT_EMPTY 145
+#define ERROR_ALREADY_EXISTS 183
+#define ERROR_FILENAME_EXCED_RANGE 206
+
+/* Structured exceptions: the part the SSE probe needs. */
+#define EXCEPTION_ILLEGAL_INSTRUCTION 0xC000001DUL
+#define EXCEPTION_MAXIMUM_PARAMETERS 15
+
+typedef enum _EXCEPTION_DISPOSITION {
+    ExceptionContinueExecution = 0,
+    ExceptionContinueSearch = 1,
+    ExceptionNestedException = 2,
+    ExceptionCollidedUnwind = 3
+} EXCEPTION_DISPOSITION;
+
+typedef struct _EXCEPTION_RECORD {
+    DWORD ExceptionCode;
+    DWORD ExceptionFlags;
+    struct _EXCEPTION_RECORD *ExceptionRecord;
+    LPVOID ExceptionAddress;
+    DWORD NumberParameters;
+    DWORD ExceptionInformation[EXCEPTION_MAXIMUM_PARAMETERS];
+} EXCEPTION_RECORD;
+
+typedef struct _FLOATING_SAVE_AREA {
+    DWORD ControlWord;
+    DWORD StatusWord;
+    DWORD TagWord;
+    DWORD ErrorOffset;
+    DWORD ErrorSelector;
+    DWORD DataOffset;
+    DWORD DataSelector;
+    unsigned char RegisterArea[80];
+    DWORD Cr0NpxState;
+} FLOATING_SAVE_AREA;
+
+/* The i386 register context, in the platform's layout. */
+typedef struct _CONTEXT {
+    DWORD ContextFlags;
+    DWORD Dr0, Dr1, Dr2, Dr3, Dr6, Dr7;
+    FLOATING_SAVE_AREA FloatSave;
+    DWORD SegGs, SegFs, SegEs, SegDs;
+    DWORD Edi, Esi, Ebx, Edx, Ecx, Eax;
+    DWORD Ebp, Eip, SegCs, EFlags, Esp, SegSs;
+    unsigned char ExtendedRegisters[512];
+} CONTEXT;
+
+struct _EXCEPTION_REGISTRATION_RECORD;
+typedef EXCEPTION_DISPOSITION (*PEXCEPTION_ROUTINE)(EXCEPTION_RECORD *record,
+                                                   void *establisher_frame,
+                                                   CONTEXT *context,
+                                                   void *dispatcher_context);
+
+/* One link of a thread's structured exception chain; the chain ends in -1. */
+typedef struct _EXCEPTION_REGISTRATION_RECORD {
+    struct _EXCEPTION_REGISTRATION_RECORD *Next;
+    PEXCEPTION_ROUTINE Handler;
+} EXCEPTION_REGISTRATION_RECORD;
+
+#define EXCEPTION_CHAIN_END ((EXCEPTION_REGISTRATION_RECORD *)-1)
+
+typedef struct _NT_TIB {
+    EXCEPTION_REGISTRATION_RECORD *ExceptionList;
+    LPVOID StackBase;
+    LPVOID StackLimit;
+    LPVOID SubSystemTib;
+    LPVOID FiberData;
+    LPVOID ArbitraryUserPointer;
+    struct _NT_TIB *Self;
+} NT_TIB;
+
+/*
+ * The thread information block. The platform reads it through a segment
+ * register; the stand-in hands it out through this call.
+ */
+K32_API NT_TIB *WINAPI NtCurrentTeb(void);
+
+/* Errors */
+K32_API DWORD WINAPI GetLastError(void);
+K32_API void WINAPI SetLastError(DWORD code);
+
+/* Heap */
+K32_API HANDLE WINAPI GetProcessHeap(void);
+K32_API LPVOID WINAPI HeapAlloc(HANDLE heap, DWORD flags, SIZE_T bytes);
+K32_API BOOL WINAPI HeapFree(HANDLE heap, DWORD flags, LPVOID block);
+K32_API LPVOID WINAPI HeapReAlloc(HANDLE heap, DWORD flags, LPVOID block,
+                                  SIZE_T bytes);
+K32_API SIZE_T WINAPI HeapSize(HANDLE heap, DWORD flags, LPCVOID block);
+
+/* Files and standard handles */
+K32_API HANDLE WINAPI CreateFileA(LPCSTR name, DWORD access, DWORD share,
+                                  LPVOID security, DWORD disposition,
+                                  DWORD attributes, HANDLE template_file);
+K32_API BOOL WINAPI CloseHandle(HANDLE handle);
+K32_API BOOL WINAPI ReadFile(HANDLE handle, LPVOID buffer, DWORD count,
+                             LPDWORD done, LPVOID overlapped);
+K32_API BOOL WINAPI WriteFile(HANDLE handle, LPCVOID buffer, DWORD count,
+                              LPDWORD done, LPVOID overlapped);
+K32_API DWORD WINAPI SetFilePointer(HANDLE handle, LONG distance,
+                                    PLONG distance_high, DWORD method);
+K32_API DWORD WINAPI GetFileType(HANDLE handle);
+K32_API HANDLE WINAPI GetStdHandle(DWORD which);
+K32_API BOOL WINAPI MoveFileA(LPCSTR existing, LPCSTR new_name);
+K32_API BOOL WINAPI DeleteFileA(LPCSTR name);
+
+/* Process */
+K32_API __attribute__((noreturn)) void WINAPI ExitProcess(UINT status);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
