@@ -5,7 +5,7 @@
 src=$1 lib=$2
 status=0
 
-want=$(cat "$src"/*/exports.txt | grep -v '^#' | grep -v '^$' | sort -u)
+want=$(find "$src" -name exports.txt -not -path "*/build/*" -exec cat {} + | grep -v '^#' | grep -v '^$' | sort -u)
 have=$(nm -D --defined-only "$lib/liborvdll.so" | awk '{print $3}' | sort -u)
 missing=$(printf '%s\n' "$want" | comm -23 - "$(printf '%s\n' "$have" > /tmp/orv_have.$$; echo /tmp/orv_have.$$)")
 extra=$(printf '%s\n' "$want" | comm -13 - /tmp/orv_have.$$)
