@@ -13,10 +13,7 @@ bool is_small(const void *p) { return (slabs[region_of(p)].flags & slab_live) !=
 
 // A new block and whether its bytes are known to be zero already.
 void *fresh_block(std::uint32_t size, bool &clean) {
-    if (size > small_max) {
-        clean = true;
-        return large_alloc(size);
-    }
+    if (size > small_max) return large_alloc(size, clean);
     unsigned cls = class_of(size);
     Guard g(heap_lock);
     return small_alloc(cls, clean);

@@ -1,6 +1,7 @@
 #include "large.h"
 
 #include "../syscall.h"
+#include "small.h"
 
 namespace orv::k32::heap {
 
@@ -16,6 +17,24 @@ static_assert(sizeof(Header) == 16);
 constexpr std::uint32_t page = 4096;
 constexpr std::uint32_t magic = 0x6F72764Cu;
 
+// Freed mappings kept for reuse: a program that allocates large blocks in
+// turn would otherwise pay a mapping and page faults for every one. The
+// kept bytes stay within a quarter of those in use, plus a floor; very big
+// mappings are never kept.
+constexpr unsigned keep_slots = 16;
+constexpr std::uint32_t keep_floor = 4u << 20;
+constexpr std::uint32_t keep_max_mapping = 4u << 20;
+
+struct Kept {
+    Header *h;
+    std::uint32_t bytes;
+};
+
+constinit Kept kept[keep_slots]{};
+constinit unsigned kept_count = 0;
+constinit std::uint32_t kept_bytes = 0;
+constinit std::uint32_t live_bytes = 0;
+
 // The mapping for `size` bytes, or 0 when the rounding would overflow.
 std::uint32_t mapping_for(std::uint32_t size) {
     if (size > 0xFFFFFFFFu - sizeof(Header) - (page - 1)) return 0;
@@ -26,14 +45,63 @@ Header *header_of(const void *p) {
     return const_cast<Header *>(static_cast<const Header *>(p)) - 1;
 }
 
+// The smallest kept mapping of at least `bytes`, taken off the list; null
+// when none fits. Caller holds heap_lock.
+Header *take_kept(std::uint32_t bytes, std::uint32_t &have) {
+    unsigned best = keep_slots;
+    for (unsigned i = 0; i < kept_count; ++i)
+        if (kept[i].bytes >= bytes && (best == keep_slots || kept[i].bytes < kept[best].bytes))
+            best = i;
+    if (best == keep_slots) return nullptr;
+    Header *h = kept[best].h;
+    have = kept[best].bytes;
+    kept[best] = kept[--kept_count];
+    kept_bytes -= have;
+    return h;
+}
+
+// Whether a freed mapping of `bytes` joins the kept ones. Caller holds
+// heap_lock.
+bool keep(Header *h, std::uint32_t bytes) {
+    if (kept_count == keep_slots || bytes > keep_max_mapping) return false;
+    if (kept_bytes + bytes > keep_floor + live_bytes / 4) return false;
+    kept[kept_count++] = Kept{h, bytes};
+    kept_bytes += bytes;
+    return true;
+}
+
 } // namespace
 
-void *large_alloc(std::uint32_t size) {
+void *large_alloc(std::uint32_t size, bool &clean) {
     std::uint32_t bytes = mapping_for(size);
     if (bytes == 0) return nullptr;
-    auto *h = static_cast<Header *>(sys::mmap_anon(bytes));
-    if (h == nullptr) return nullptr;
-    h->mapped = bytes;
+    std::uint32_t have = 0;
+    Header *h;
+    {
+        Guard g(heap_lock);
+        h = take_kept(bytes, have);
+        live_bytes += h != nullptr ? have : bytes;
+    }
+    if (h != nullptr) {
+        // A kept mapping much bigger than needed gives its tail back.
+        if (have - bytes > bytes / 4) {
+            sys::munmap(reinterpret_cast<char *>(h) + bytes, have - bytes);
+            Guard g(heap_lock);
+            live_bytes -= have - bytes;
+            have = bytes;
+        }
+        clean = false;
+    } else {
+        h = static_cast<Header *>(sys::mmap_anon(bytes));
+        if (h == nullptr) {
+            Guard g(heap_lock);
+            live_bytes -= bytes;
+            return nullptr;
+        }
+        have = bytes;
+        clean = true;
+    }
+    h->mapped = have;
     h->magic = magic;
     return h + 1;
 }
@@ -45,8 +113,14 @@ bool large_valid(const void *p) {
 
 void large_free(void *p) {
     Header *h = header_of(p);
+    std::uint32_t bytes = h->mapped;
     h->magic = 0;
-    sys::munmap(h, h->mapped);
+    {
+        Guard g(heap_lock);
+        live_bytes -= bytes;
+        if (keep(h, bytes)) return;
+    }
+    sys::munmap(h, bytes);
 }
 
 std::uint32_t large_usable(const void *p) { return header_of(p)->mapped - sizeof(Header); }
@@ -55,11 +129,14 @@ void *large_resize(void *p, std::uint32_t size, bool may_move) {
     Header *h = header_of(p);
     std::uint32_t bytes = mapping_for(size);
     if (bytes == 0) return nullptr;
-    if (bytes == h->mapped) return p;
+    std::uint32_t old = h->mapped;
+    if (bytes == old) return p;
     auto *n = static_cast<Header *>(
-        sys::mremap(h, h->mapped, bytes, may_move ? long{sys::mremap_maymove} : 0L));
+        sys::mremap(h, old, bytes, may_move ? long{sys::mremap_maymove} : 0L));
     if (n == nullptr) return nullptr;
     n->mapped = bytes;
+    Guard g(heap_lock);
+    live_bytes += bytes - old; // unsigned wrap does the subtraction on shrinking
     return n + 1;
 }
 

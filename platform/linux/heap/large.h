@@ -1,14 +1,17 @@
-// Blocks above the largest size class: one private mapping each, given back
-// to the system when freed. A 16-byte header ahead of the block keeps the
-// block 16-byte aligned and records the mapping's length.
+// Blocks above the largest size class: one private mapping each. A freed
+// mapping is kept for reuse while the kept ones stay small against the
+// mappings in use, and otherwise goes back to the system. A 16-byte header
+// ahead of the block keeps the block 16-byte aligned and records the
+// mapping's length.
 #pragma once
 
 #include <cstdint>
 
 namespace orv::k32::heap {
 
-// A block of at least `size` bytes, all zero, or null.
-void *large_alloc(std::uint32_t size);
+// A block of at least `size` bytes, or null. `clean` tells whether its
+// bytes are zero (a new mapping) or were used before (a kept one).
+void *large_alloc(std::uint32_t size, bool &clean);
 
 // Whether `p` is the start of a large block.
 bool large_valid(const void *p);

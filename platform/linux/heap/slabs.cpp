@@ -13,14 +13,17 @@ namespace {
 constexpr std::uint32_t reserve_bytes = 16 * slab_bytes;
 constexpr std::uint32_t page = 4096;
 
-// Emptied slabs kept for reuse before they go back to the system: enough to
-// absorb a burst of frees and allocations, small against the 1.25x budget.
-constexpr unsigned cache_max = 4;
+// Emptied slabs kept for reuse before they go back to the system, so that
+// a program that frees and allocates in waves does not pay page faults for
+// every wave: up to a quarter of the slabs in use, and a few besides.
+constexpr unsigned cache_capacity = 1024;
+constexpr unsigned cache_floor = 16;
 
 constinit std::uintptr_t reserve_next = 0;
 constinit std::uintptr_t reserve_end = 0;
-constinit std::uint16_t cache[cache_max]{};
+constinit std::uint16_t cache[cache_capacity]{};
 constinit unsigned cached = 0;
+constinit unsigned live = 0;
 
 // The system aligns mappings to pages only: map one slab less a page more
 // than needed, then trim both ends to a slab-aligned run.
@@ -52,6 +55,7 @@ std::uint32_t slab_take(unsigned cls) {
         reserve_next += slab_bytes;
         fresh = slab_fresh;
     }
+    ++live;
     Slab &s = slabs[r];
     s.free = nullptr;
     s.bump = region_base(r);
@@ -64,11 +68,15 @@ std::uint32_t slab_take(unsigned cls) {
 
 void slab_release(std::uint32_t r) {
     slabs[r] = Slab{};
-    if (cached < cache_max) {
+    --live;
+    if (cached < cache_capacity && cached < cache_floor + live / 4) {
         cache[cached++] = static_cast<std::uint16_t>(r);
         return;
     }
     sys::munmap(region_base(r), slab_bytes);
+    // A cache that outgrew its share, the program having shrunk, sheds
+    // one more slab each time.
+    if (cached > cache_floor + live / 4) sys::munmap(region_base(cache[--cached]), slab_bytes);
 }
 
 } // namespace orv::k32::heap
