@@ -21,7 +21,7 @@ constexpr std::uint32_t magic = 0x6F72764Cu;
 // turn would otherwise pay a mapping and page faults for every one. The
 // kept bytes stay within a quarter of those in use, plus a floor; very big
 // mappings are never kept.
-constexpr unsigned keep_slots = 16;
+constexpr unsigned keep_slots = 64;
 constexpr std::uint32_t keep_floor = 4u << 20;
 constexpr std::uint32_t keep_max_mapping = 4u << 20;
 
@@ -34,6 +34,7 @@ constinit Kept kept[keep_slots]{};
 constinit unsigned kept_count = 0;
 constinit std::uint32_t kept_bytes = 0;
 constinit std::uint32_t live_bytes = 0;
+constinit std::uint32_t peak_bytes = 0;
 
 // The mapping for `size` bytes, or 0 when the rounding would overflow.
 std::uint32_t mapping_for(std::uint32_t size) {
@@ -64,7 +65,7 @@ Header *take_kept(std::uint32_t bytes, std::uint32_t &have) {
 // heap_lock.
 bool keep(Header *h, std::uint32_t bytes) {
     if (kept_count == keep_slots || bytes > keep_max_mapping) return false;
-    if (kept_bytes + bytes > keep_floor + live_bytes / 4) return false;
+    if (kept_bytes + bytes > keep_floor + peak_bytes / 2) return false;
     kept[kept_count++] = Kept{h, bytes};
     kept_bytes += bytes;
     return true;
@@ -81,6 +82,7 @@ void *large_alloc(std::uint32_t size, bool &clean) {
         Guard g(heap_lock);
         h = take_kept(bytes, have);
         live_bytes += h != nullptr ? have : bytes;
+        if (live_bytes > peak_bytes) peak_bytes = live_bytes;
     }
     if (h != nullptr) {
         // A kept mapping much bigger than needed gives its tail back.

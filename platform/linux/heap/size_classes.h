@@ -28,13 +28,23 @@ constexpr unsigned class_of(std::uint32_t size) {
            ((size - 1) >> (e - steps_log2)) - (1u << steps_log2);
 }
 
-constexpr std::uint32_t class_size(unsigned cls) {
+constexpr std::uint32_t compute_class_size(unsigned cls) {
     if (cls < fine_classes) return (cls + 1) * 8;
     unsigned k = cls - fine_classes;
     unsigned e = 7 + (k >> steps_log2);
     unsigned q = k & ((1u << steps_log2) - 1);
     return ((1u << steps_log2) + q + 1) << (e - steps_log2);
 }
+
+struct ClassSizes {
+    std::uint32_t bytes[class_count];
+    constexpr ClassSizes() : bytes() {
+        for (unsigned c = 0; c < class_count; ++c) bytes[c] = compute_class_size(c);
+    }
+};
+inline constexpr ClassSizes class_sizes{};
+
+constexpr std::uint32_t class_size(unsigned cls) { return class_sizes.bytes[cls]; }
 
 static_assert(class_size(class_of(1)) == 8 && class_size(class_of(128)) == 128);
 static_assert(class_size(class_of(129)) == 160 && class_size(class_of(257)) == 320);

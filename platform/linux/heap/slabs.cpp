@@ -24,6 +24,9 @@ constinit std::uintptr_t reserve_end = 0;
 constinit std::uint16_t cache[cache_capacity]{};
 constinit unsigned cached = 0;
 constinit unsigned live = 0;
+constinit unsigned peak = 0;
+
+unsigned cache_limit() { return cache_floor + peak / 2; }
 
 // The system aligns mappings to pages only: map one slab less a page more
 // than needed, then trim both ends to a slab-aligned run.
@@ -55,7 +58,7 @@ std::uint32_t slab_take(unsigned cls) {
         reserve_next += slab_bytes;
         fresh = slab_fresh;
     }
-    ++live;
+    if (++live > peak) peak = live;
     Slab &s = slabs[r];
     s.free = nullptr;
     s.bump = region_base(r);
@@ -69,14 +72,14 @@ std::uint32_t slab_take(unsigned cls) {
 void slab_release(std::uint32_t r) {
     slabs[r] = Slab{};
     --live;
-    if (cached < cache_capacity && cached < cache_floor + live / 4) {
+    if (cached < cache_capacity && cached < cache_limit()) {
         cache[cached++] = static_cast<std::uint16_t>(r);
         return;
     }
     sys::munmap(region_base(r), slab_bytes);
     // A cache that outgrew its share, the program having shrunk, sheds
     // one more slab each time.
-    if (cached > cache_floor + live / 4) sys::munmap(region_base(cache[--cached]), slab_bytes);
+    if (cached > cache_limit()) sys::munmap(region_base(cache[--cached]), slab_bytes);
 }
 
 } // namespace orv::k32::heap
