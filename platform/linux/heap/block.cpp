@@ -35,7 +35,7 @@ void *block_resize(void *p, std::uint32_t size, bool in_place_only, bool zero) {
     // A large block stays a mapping while it is large, or when it may not
     // move; the system zero-fills grown pages.
     if (size <= old_size && size > old_size / 2 && size > small_max) return p;
-    if (size > small_max || in_place_only) return large_resize(p, size, !in_place_only);
+    if (size > small_max || in_place_only) return large_resize(p, size, !in_place_only, zero);
     return move_block(p, old_size, size, zero);
 }
 

@@ -73,38 +73,50 @@ bool keep(Header *h, std::uint32_t bytes) {
 
 } // namespace
 
-void *large_alloc(std::uint32_t size, bool &clean) {
-    std::uint32_t bytes = mapping_for(size);
-    if (bytes == 0) return nullptr;
+namespace {
+
+// A kept mapping of at least `bytes` set up as a block, or null.
+Header *reuse_kept(std::uint32_t bytes) {
     std::uint32_t have = 0;
     Header *h;
     {
         Guard g(heap_lock);
         h = take_kept(bytes, have);
-        live_bytes += h != nullptr ? have : bytes;
+        if (h == nullptr) return nullptr;
+        live_bytes += have;
         if (live_bytes > peak_bytes) peak_bytes = live_bytes;
     }
-    if (h != nullptr) {
-        // A kept mapping much bigger than needed gives its tail back.
-        if (have - bytes > bytes / 4) {
-            sys::munmap(reinterpret_cast<char *>(h) + bytes, have - bytes);
-            Guard g(heap_lock);
-            live_bytes -= have - bytes;
-            have = bytes;
-        }
-        clean = false;
-    } else {
-        h = static_cast<Header *>(sys::mmap_anon(bytes));
-        if (h == nullptr) {
-            Guard g(heap_lock);
-            live_bytes -= bytes;
-            return nullptr;
-        }
+    // A kept mapping far bigger than needed gives its tail back.
+    if (have / 2 > bytes) {
+        sys::munmap(reinterpret_cast<char *>(h) + bytes, have - bytes);
+        Guard g(heap_lock);
+        live_bytes -= have - bytes;
         have = bytes;
-        clean = true;
     }
     h->mapped = have;
     h->magic = magic;
+    return h;
+}
+
+} // namespace
+
+void *large_alloc(std::uint32_t size, bool &clean) {
+    std::uint32_t bytes = mapping_for(size);
+    if (bytes == 0) return nullptr;
+    if (Header *h = reuse_kept(bytes)) {
+        clean = false;
+        return h + 1;
+    }
+    auto *h = static_cast<Header *>(sys::mmap_anon(bytes));
+    if (h == nullptr) return nullptr;
+    {
+        Guard g(heap_lock);
+        live_bytes += bytes;
+        if (live_bytes > peak_bytes) peak_bytes = live_bytes;
+    }
+    h->mapped = bytes;
+    h->magic = magic;
+    clean = true;
     return h + 1;
 }
 
@@ -127,18 +139,30 @@ void large_free(void *p) {
 
 std::uint32_t large_usable(const void *p) { return header_of(p)->mapped - sizeof(Header); }
 
-void *large_resize(void *p, std::uint32_t size, bool may_move) {
+void *large_resize(void *p, std::uint32_t size, bool may_move, bool zero) {
     Header *h = header_of(p);
     std::uint32_t bytes = mapping_for(size);
     if (bytes == 0) return nullptr;
     std::uint32_t old = h->mapped;
     if (bytes == old) return p;
+    // Growing into a kept mapping costs a copy of memory already in hand;
+    // growing the mapping costs a page fault for every new page.
+    if (bytes > old && may_move) {
+        if (Header *n = reuse_kept(bytes)) {
+            std::uint32_t was = old - sizeof(Header);
+            __builtin_memcpy(n + 1, p, was);
+            if (zero) __builtin_memset(reinterpret_cast<char *>(n + 1) + was, 0, n->mapped - old);
+            large_free(p);
+            return n + 1;
+        }
+    }
     auto *n = static_cast<Header *>(
         sys::mremap(h, old, bytes, may_move ? long{sys::mremap_maymove} : 0L));
     if (n == nullptr) return nullptr;
     n->mapped = bytes;
     Guard g(heap_lock);
     live_bytes += bytes - old; // unsigned wrap does the subtraction on shrinking
+    if (live_bytes > peak_bytes) peak_bytes = live_bytes;
     return n + 1;
 }
 

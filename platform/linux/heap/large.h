@@ -21,8 +21,8 @@ void large_free(void *p);
 // Bytes the block may use: its mapping less the header.
 std::uint32_t large_usable(const void *p);
 
-// Resizes the mapping, moving it only when `may_move`. Grown bytes are zero.
-// Answers the block, or null with the block untouched.
-void *large_resize(void *p, std::uint32_t size, bool may_move);
+// Resizes the block, moving it only when `may_move`; the bytes it gains
+// are zero when `zero`. Answers the block, or null with the block untouched.
+void *large_resize(void *p, std::uint32_t size, bool may_move, bool zero);
 
 } // namespace orv::k32::heap
