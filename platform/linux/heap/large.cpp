@@ -21,7 +21,7 @@ constexpr std::uint32_t magic = 0x6F72764Cu;
 // turn would otherwise pay a mapping and page faults for every one. The
 // kept bytes stay within a quarter of those in use, plus a floor; very big
 // mappings are never kept.
-constexpr unsigned keep_slots = 64;
+constexpr unsigned keep_slots = 128;
 constexpr std::uint32_t keep_floor = 4u << 20;
 constexpr std::uint32_t keep_max_mapping = 4u << 20;
 
@@ -86,12 +86,18 @@ Header *reuse_kept(std::uint32_t bytes) {
         live_bytes += have;
         if (live_bytes > peak_bytes) peak_bytes = live_bytes;
     }
-    // A kept mapping far bigger than needed gives its tail back.
+    // A kept mapping far bigger than needed is split, its tail kept apart.
     if (have / 2 > bytes) {
-        sys::munmap(reinterpret_cast<char *>(h) + bytes, have - bytes);
-        Guard g(heap_lock);
-        live_bytes -= have - bytes;
+        auto *tail = reinterpret_cast<Header *>(reinterpret_cast<char *>(h) + bytes);
+        std::uint32_t rest = have - bytes;
         have = bytes;
+        bool kept_tail;
+        {
+            Guard g(heap_lock);
+            live_bytes -= rest;
+            kept_tail = keep(tail, rest);
+        }
+        if (!kept_tail) sys::munmap(tail, rest);
     }
     h->mapped = have;
     h->magic = magic;
