@@ -71,6 +71,23 @@ bool keep(Header *h, std::uint32_t bytes) {
     return true;
 }
 
+// When new memory has to come from the system, kept mappings that could
+// not serve go back to it, as many bytes as are new: a pattern the kept
+// ones do not fit then does not add them to the footprint.
+void shed_kept(std::uint32_t bytes) {
+    while (bytes > 0) {
+        Kept k;
+        {
+            Guard g(heap_lock);
+            if (kept_count == 0) return;
+            k = kept[--kept_count];
+            kept_bytes -= k.bytes;
+        }
+        sys::munmap(k.h, k.bytes);
+        bytes = k.bytes < bytes ? bytes - k.bytes : 0;
+    }
+}
+
 } // namespace
 
 namespace {
@@ -113,6 +130,7 @@ void *large_alloc(std::uint32_t size, bool &clean) {
         clean = false;
         return h + 1;
     }
+    shed_kept(bytes);
     auto *h = static_cast<Header *>(sys::mmap_anon(bytes));
     if (h == nullptr) return nullptr;
     {
@@ -162,6 +180,7 @@ void *large_resize(void *p, std::uint32_t size, bool may_move, bool zero) {
             return n + 1;
         }
     }
+    if (bytes > old) shed_kept(bytes - old);
     auto *n = static_cast<Header *>(
         sys::mremap(h, old, bytes, may_move ? long{sys::mremap_maymove} : 0L));
     if (n == nullptr) return nullptr;
