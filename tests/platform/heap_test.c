@@ -223,11 +223,71 @@ static void memory_returns(void) {
     CHECK(resident_kb() + 15 * 1024 < touched);
 }
 
+/* Threads share the heap: each churns blocks of its own and checks that
+   nobody else wrote into them. Threads are started with a raw clone, as a
+   program's own thread library would. */
+enum { THREADS = 2, CHURN = 60000, LIVE = 256 };
+static volatile int threads_done, thread_faults;
+
+static void churn(void) {
+    void *mine[LIVE] = {0};
+    unsigned seed = (unsigned)&mine, sz[LIVE] = {0};
+    for (int i = 0; i < CHURN; ++i) {
+        seed = seed * 1103515245u + 12345u;
+        unsigned k = (seed >> 8) % LIVE;
+        if (mine[k] && !holds(mine[k], mine[k], sz[k])) __atomic_add_fetch(&thread_faults, 1, __ATOMIC_RELAXED);
+        free(mine[k]);
+        sz[k] = (seed >> 12) % 64 == 0 ? 70000 : (seed >> 16) % 3000;
+        mine[k] = malloc(sz[k]);
+        if (!mine[k]) __atomic_add_fetch(&thread_faults, 1, __ATOMIC_RELAXED);
+        else fill(mine[k], sz[k]);
+    }
+    for (int k = 0; k < LIVE; ++k) free(mine[k]);
+}
+
+static void thread_main(void) {
+    churn();
+    __atomic_add_fetch(&threads_done, 1, __ATOMIC_RELEASE);
+}
+
+static int start_thread(void (*fn)(void), char *stack_top) {
+    long r;
+    ((void (**)(void))stack_top)[-1] = fn;
+    __asm__ volatile("int $0x80\n\t"
+                     "test %%eax, %%eax\n\t"
+                     "jnz 1f\n\t"
+                     "call *(%%esp)\n\t"
+                     "movl $1, %%eax\n\t" /* exit: this thread only */
+                     "xorl %%ebx, %%ebx\n\t"
+                     "int $0x80\n"
+                     "1:"
+                     : "=a"(r)
+                     : "a"(120 /* clone */), "b"(0x50F00 /* VM FS FILES SIGHAND THREAD SYSVSEM */),
+                       "c"(stack_top - 4), "d"(0), "S"(0), "D"(0)
+                     : "memory");
+    return r > 0;
+}
+
+static void threads(void) {
+    t_section("threads");
+    static char stacks[THREADS][65536] __attribute__((aligned(16)));
+    int started = 0;
+    for (int i = 0; i < THREADS; ++i) started += start_thread(thread_main, stacks[i] + sizeof stacks[i]);
+    CHECK_EQ(started, THREADS);
+    churn();
+    while (__atomic_load_n(&threads_done, __ATOMIC_ACQUIRE) < started) {
+        long r;
+        __asm__ volatile("int $0x80" : "=a"(r) : "a"(158 /* sched_yield */) : "memory");
+    }
+    CHECK_EQ(thread_faults, 0);
+}
+
 int main(void) {
     distinct_blocks();
     zero_fill();
     resizing();
     failures();
     memory_returns();
+    threads();
     return t_finish();
 }
