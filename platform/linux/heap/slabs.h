@@ -30,7 +30,7 @@ enum SlabFlag : std::uint8_t {
 inline constexpr std::uint32_t region_count = std::uint32_t{1} << (32 - slab_shift);
 
 // Region 0 is never a slab, so its entry (all zero) doubles as "no slab".
-extern Slab slabs[region_count];
+extern Slab slabs[region_count] __attribute__((visibility("hidden")));
 
 inline std::uint32_t region_of(const void *p) {
     return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(p) >> slab_shift);
