@@ -18,9 +18,11 @@ constexpr std::uint32_t page = 4096;
 constexpr std::uint32_t magic = 0x6F72764Cu;
 
 // Freed mappings kept for reuse: a program that allocates large blocks in
-// turn would otherwise pay a mapping and page faults for every one. The
-// kept bytes stay within a quarter of those in use, plus a floor; very big
-// mappings are never kept.
+// turn would otherwise pay a mapping and page faults for every one. Memory
+// kept is memory the program has held before, so it adds nothing to the
+// peak: the kept bytes stay within half the peak of those in use, plus a
+// floor, and are shed when new memory has to be mapped. Very big mappings
+// are never kept.
 constexpr unsigned keep_slots = 128;
 constexpr std::uint32_t keep_floor = 4u << 20;
 constexpr std::uint32_t keep_max_mapping = 4u << 20;

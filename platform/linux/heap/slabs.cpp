@@ -15,7 +15,8 @@ constexpr std::uint32_t page = 4096;
 
 // Emptied slabs kept for reuse before they go back to the system, so that
 // a program that frees and allocates in waves does not pay page faults for
-// every wave: up to a quarter of the slabs in use, and a few besides.
+// every wave: up to half the most slabs ever in use, and a few besides.
+// They are reused before any new slab, so they never raise the peak.
 constexpr unsigned cache_capacity = 1024;
 constexpr unsigned cache_floor = 16;
 
