@@ -19,7 +19,7 @@ constexpr std::uint32_t magic = 0x6F72764Cu;
 
 // Freed mappings kept for reuse: a program that allocates large blocks in
 // turn would otherwise pay a mapping and page faults for every one. Memory
-// kept is memory the program has held before, so it adds nothing to the
+// kept is memory the program has held before, so it adds little to the
 // peak: the kept bytes stay within half the peak of those in use, plus a
 // floor, and are shed when new memory has to be mapped. Very big mappings
 // are never kept.
