@@ -252,7 +252,7 @@ static void thread_main(void) {
 
 static int start_thread(void (*fn)(void), char *stack_top) {
     long r;
-    ((void (**)(void))stack_top)[-1] = fn;
+    ((void (**)(void))stack_top)[-4] = fn; /* at the new stack pointer, 16-aligned */
     __asm__ volatile("int $0x80\n\t"
                      "test %%eax, %%eax\n\t"
                      "jnz 1f\n\t"
@@ -263,7 +263,7 @@ static int start_thread(void (*fn)(void), char *stack_top) {
                      "1:"
                      : "=a"(r)
                      : "a"(120 /* clone */), "b"(0x50F00 /* VM FS FILES SIGHAND THREAD SYSVSEM */),
-                       "c"(stack_top - 4), "d"(0), "S"(0), "D"(0)
+                       "c"(stack_top - 16), "d"(0), "S"(0), "D"(0)
                      : "memory");
     return r > 0;
 }
