@@ -151,6 +151,14 @@ inline long munmap(void *p, std::uint32_t bytes) {
     return call2(nr_munmap, arg(p), static_cast<long>(bytes));
 }
 
+// Resizes a mapping; without mremap_maymove it only succeeds in place.
+// Answers the mapping's address, or null.
+inline void *mremap(void *p, std::uint32_t old_bytes, std::uint32_t new_bytes, long flags) {
+    long r = call4(nr_mremap, arg(p), static_cast<long>(old_bytes),
+                   static_cast<long>(new_bytes), flags);
+    return failed(r) ? nullptr : reinterpret_cast<void *>(r);
+}
+
 // struct stat64 as the i386 kernel fills it.
 struct Stat64 {
     std::uint64_t st_dev;

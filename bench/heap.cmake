@@ -1,0 +1,1 @@
+orv_add_bench(heap heap.c ROUNDS 5)

@@ -1,0 +1,293 @@
+/* The process heap, through the C allocation functions and the stand-in's
+   own calls: block integrity across size classes, zero-fill, resizing in and
+   out of the large path, failures that must leave the old block alone, and
+   memory that goes back to the system. */
+#include <stdlib.h>
+
+#include "harness.h"
+#include "platform/k32_faults.h"
+#include "platform/kernel32.h"
+
+/* The old block of a failed realloc is still the caller's: reading it is
+   the point of several checks here, and some sizes are meant to be absurd. */
+#pragma GCC diagnostic ignored "-Wuse-after-free"
+#pragma GCC diagnostic ignored "-Walloc-size-larger-than="
+
+static unsigned rng_state = 12345;
+static unsigned rng(void) {
+    rng_state = rng_state * 1103515245u + 12345u;
+    return rng_state >> 8;
+}
+
+static unsigned char pattern(const void *block, unsigned i) {
+    return (unsigned char)(((unsigned)block >> 3) + i * 7 + 1);
+}
+static void fill(void *block, unsigned n) {
+    for (unsigned i = 0; i < n; ++i) ((unsigned char *)block)[i] = pattern(block, i);
+}
+/* Whether the first n bytes of `now` hold the pattern written at `was`. */
+static int holds(const void *now, const void *was, unsigned n) {
+    for (unsigned i = 0; i < n; ++i)
+        if (((const unsigned char *)now)[i] != pattern(was, i)) return 0;
+    return 1;
+}
+static int all_zero(const void *p, unsigned n) {
+    for (unsigned i = 0; i < n; ++i)
+        if (((const unsigned char *)p)[i] != 0) return 0;
+    return 1;
+}
+
+/* Resident kilobytes, from /proc/self/statm. */
+static unsigned resident_kb(void) {
+    char text[128];
+    int n = t_read_file("/proc/self/statm", text, sizeof text - 1);
+    if (n <= 0) return 0;
+    int i = 0;
+    while (i < n && text[i] != ' ') ++i;
+    unsigned pages = 0;
+    for (++i; i < n && text[i] >= '0' && text[i] <= '9'; ++i) pages = pages * 10 + (unsigned)(text[i] - '0');
+    return pages * 4;
+}
+
+static const unsigned sizes[] = {0, 1, 7, 8, 9, 16, 24, 100, 128, 129, 160, 250, 1000, 4096, 5000,
+                                 20000, 40000, 65535, 65536, 65537, 100000, 300000};
+enum { NSIZES = sizeof sizes / sizeof sizes[0], COPIES = 5 };
+
+static void distinct_blocks(void) {
+    t_section("distinct blocks across classes");
+    void *b[NSIZES * COPIES];
+    int aligned = 1, big_enough = 1;
+    for (int i = 0; i < NSIZES * COPIES; ++i) {
+        unsigned n = sizes[i % NSIZES];
+        b[i] = malloc(n);
+        CHECK(b[i] != 0);
+        aligned &= ((unsigned)b[i] & (n > 128 ? 15u : 7u)) == 0;
+        big_enough &= HeapSize(GetProcessHeap(), 0, b[i]) >= n;
+        fill(b[i], n);
+    }
+    CHECK(aligned);
+    CHECK(big_enough);
+    int intact = 1, apart = 1;
+    for (int i = 0; i < NSIZES * COPIES; ++i) {
+        intact &= holds(b[i], b[i], sizes[i % NSIZES]);
+        for (int j = 0; j < i; ++j) apart &= b[i] != b[j];
+    }
+    CHECK(intact);
+    CHECK(apart); /* malloc(0) included: every block is its own */
+    for (int i = 0; i < NSIZES * COPIES; ++i) free(b[i]);
+}
+
+/* Dirty blocks are freed and the same sizes asked again with zero-fill:
+   whatever is reused must come back clear. */
+static void zero_fill(void) {
+    t_section("zero-fill of reused blocks");
+    HANDLE heap = GetProcessHeap();
+    void *b[NSIZES * COPIES];
+    for (int round = 0; round < 2; ++round) {
+        for (int i = 0; i < NSIZES * COPIES; ++i) {
+            b[i] = malloc(sizes[i % NSIZES]);
+            t_memset(b[i], 0xAA, HeapSize(heap, 0, b[i]));
+        }
+        void *old[NSIZES * COPIES];
+        for (int i = 0; i < NSIZES * COPIES; ++i) old[i] = b[i], free(b[i]);
+        int clear = 1, reused = 0;
+        for (int i = 0; i < NSIZES * COPIES; ++i) {
+            unsigned n = sizes[i % NSIZES];
+            b[i] = round == 0 ? calloc(1, n ? n : 1) : HeapAlloc(heap, HEAP_ZERO_MEMORY, n);
+            clear &= b[i] != 0 && all_zero(b[i], HeapSize(heap, 0, b[i]));
+            for (int j = 0; j < NSIZES * COPIES; ++j) reused += b[i] == old[j];
+        }
+        CHECK(clear);
+        CHECK(reused > NSIZES); /* the check above saw dirty memory */
+        for (int i = 0; i < NSIZES * COPIES; ++i) free(b[i]);
+    }
+}
+
+static void resizing(void) {
+    t_section("realloc keeps contents across classes and paths");
+    static const unsigned steps[] = {1, 24, 129, 5000, 65536, 70000, 300000, 1 << 20,
+                                     200000, 60000, 3000, 100, 9};
+    unsigned char *p = malloc(1), *origin = p;
+    fill(p, 1);
+    unsigned have = 1;
+    for (unsigned i = 1; i < sizeof steps / sizeof steps[0]; ++i) {
+        unsigned n = steps[i];
+        unsigned char *q = realloc(p, n);
+        CHECK(q != 0);
+        unsigned keep = have < n ? have : n;
+        CHECK(holds(q, origin, keep));
+        for (unsigned j = keep; j < n; ++j) q[j] = pattern(origin, j);
+        p = q, have = n;
+    }
+    free(p);
+
+    t_section("HeapReAlloc zero-fills what it adds");
+    HANDLE heap = GetProcessHeap();
+    static const unsigned from[] = {100, 100, 5000, 100000, 100000};
+    static const unsigned to[] = {5000, 200000, 65536, 400000, 30};
+    for (unsigned i = 0; i < sizeof from / sizeof from[0]; ++i) {
+        unsigned char *a = HeapAlloc(heap, 0, from[i]);
+        unsigned was = HeapSize(heap, 0, a);
+        fill(a, was);
+        unsigned char *b = HeapReAlloc(heap, HEAP_ZERO_MEMORY, a, to[i]);
+        CHECK(b != 0);
+        unsigned now = HeapSize(heap, 0, b);
+        CHECK(now >= to[i]);
+        CHECK(holds(b, a, was < to[i] ? was : to[i]));
+        if (now > was) CHECK(all_zero(b + was, now - was));
+        HeapFree(heap, 0, b);
+    }
+}
+
+static void failures(void) {
+    HANDLE heap = GetProcessHeap();
+    t_section("in-place-only");
+    unsigned char *p = HeapAlloc(heap, 0, 100);
+    unsigned usable = HeapSize(heap, 0, p);
+    fill(p, usable);
+    SetLastError(0);
+    CHECK(HeapReAlloc(heap, HEAP_REALLOC_IN_PLACE_ONLY, p, 10000) == 0);
+    CHECK_EQ(GetLastError(), ERROR_NOT_ENOUGH_MEMORY);
+    CHECK(holds(p, p, usable));
+    CHECK(HeapReAlloc(heap, HEAP_REALLOC_IN_PLACE_ONLY, p, usable) == p);
+    CHECK(HeapReAlloc(heap, HEAP_REALLOC_IN_PLACE_ONLY, p, 1) == p);
+    CHECK(holds(p, p, usable));
+    HeapFree(heap, 0, p);
+    unsigned char *big = HeapAlloc(heap, 0, 500000);
+    fill(big, 500000);
+    CHECK(HeapReAlloc(heap, HEAP_REALLOC_IN_PLACE_ONLY, big, 1000) == big);
+    CHECK(holds(big, big, 1000));
+    HeapFree(heap, 0, big);
+
+    t_section("injected failures");
+    p = malloc(300);
+    fill(p, 300);
+    k32_fail_call(K32_HeapReAlloc, 1);
+    CHECK(realloc(p, 100000) == 0);
+    CHECK(holds(p, p, 300));
+    k32_fail_call(K32_HeapAlloc, 1);
+    SetLastError(0);
+    CHECK(malloc(16) == 0);
+    CHECK_EQ(GetLastError(), ERROR_NOT_ENOUGH_MEMORY);
+    CHECK(malloc(16) != 0); /* only the chosen call fails; this one leaks */
+
+    t_section("sizes that cannot be had");
+    static const unsigned huge[] = {0xFFFFFFFFu, 0xFFFFFFF0u, 0xFFFFF000u, 0xFFFF0000u};
+    for (unsigned i = 0; i < sizeof huge / sizeof huge[0]; ++i) {
+        SetLastError(0);
+        CHECK(HeapAlloc(heap, 0, huge[i]) == 0);
+        CHECK_EQ(GetLastError(), ERROR_NOT_ENOUGH_MEMORY);
+        CHECK(realloc(p, huge[i]) == 0);
+        CHECK(holds(p, p, 300));
+    }
+    CHECK(calloc(0x10000, 0xFFFF) == 0);
+    free(p);
+
+    t_section("foreign pointers");
+    static char foreign[8192] __attribute__((aligned(4096)));
+    CHECK_EQ(HeapFree(heap, 0, foreign + 16), 0);
+    CHECK_EQ(HeapFree(heap, 0, 0), 1);
+}
+
+/* Rounds of mixed blocks freed in random order: the footprint must settle,
+   and large blocks must go back to the system when freed. */
+static void memory_returns(void) {
+    t_section("memory is given back");
+    enum { N = 1500 };
+    static void *b[N];
+    unsigned early = 0, late = 0;
+    for (int round = 0; round < 60; ++round) {
+        for (int i = 0; i < N; ++i) {
+            unsigned r = rng();
+            unsigned n = r % 16 == 0 ? 65537 + r % 150000 : r % 4 == 0 ? r % 20000 : r % 200;
+            b[i] = malloc(n);
+            if (n) ((char *)b[i])[n - 1] = 1, ((char *)b[i])[0] = 1;
+        }
+        for (int i = N - 1; i > 0; --i) {
+            int j = (int)(rng() % (unsigned)(i + 1));
+            void *t = b[i];
+            b[i] = b[j], b[j] = t;
+        }
+        unsigned kb = resident_kb();
+        if (round < 10 && kb > early) early = kb;
+        if (round >= 50 && kb > late) late = kb;
+        for (int i = 0; i < N; ++i) free(b[i]);
+    }
+    CHECK(early > 0);
+    CHECK(late < early + 2048); /* a leak of one slab a round would show */
+
+    char *big = malloc(16 << 20);
+    for (unsigned i = 0; i < 16u << 20; i += 4096) big[i] = 1;
+    unsigned touched = resident_kb();
+    free(big);
+    CHECK(resident_kb() + 15 * 1024 < touched);
+}
+
+/* Threads share the heap: each churns blocks of its own and checks that
+   nobody else wrote into them. Threads are started with a raw clone, as a
+   program's own thread library would. */
+enum { THREADS = 2, CHURN = 60000, LIVE = 256 };
+static volatile int threads_done, thread_faults;
+
+static void churn(void) {
+    void *mine[LIVE] = {0};
+    unsigned seed = (unsigned)&mine, sz[LIVE] = {0};
+    for (int i = 0; i < CHURN; ++i) {
+        seed = seed * 1103515245u + 12345u;
+        unsigned k = (seed >> 8) % LIVE;
+        if (mine[k] && !holds(mine[k], mine[k], sz[k])) __atomic_add_fetch(&thread_faults, 1, __ATOMIC_RELAXED);
+        free(mine[k]);
+        sz[k] = (seed >> 12) % 64 == 0 ? 70000 : (seed >> 16) % 3000;
+        mine[k] = malloc(sz[k]);
+        if (!mine[k]) __atomic_add_fetch(&thread_faults, 1, __ATOMIC_RELAXED);
+        else fill(mine[k], sz[k]);
+    }
+    for (int k = 0; k < LIVE; ++k) free(mine[k]);
+}
+
+static void thread_main(void) {
+    churn();
+    __atomic_add_fetch(&threads_done, 1, __ATOMIC_RELEASE);
+}
+
+static int start_thread(void (*fn)(void), char *stack_top) {
+    long r;
+    ((void (**)(void))stack_top)[-4] = fn; /* at the new stack pointer, 16-aligned */
+    __asm__ volatile("int $0x80\n\t"
+                     "test %%eax, %%eax\n\t"
+                     "jnz 1f\n\t"
+                     "call *(%%esp)\n\t"
+                     "movl $1, %%eax\n\t" /* exit: this thread only */
+                     "xorl %%ebx, %%ebx\n\t"
+                     "int $0x80\n"
+                     "1:"
+                     : "=a"(r)
+                     : "a"(120 /* clone */), "b"(0x50F00 /* VM FS FILES SIGHAND THREAD SYSVSEM */),
+                       "c"(stack_top - 16), "d"(0), "S"(0), "D"(0)
+                     : "memory");
+    return r > 0;
+}
+
+static void threads(void) {
+    t_section("threads");
+    static char stacks[THREADS][65536] __attribute__((aligned(16)));
+    int started = 0;
+    for (int i = 0; i < THREADS; ++i) started += start_thread(thread_main, stacks[i] + sizeof stacks[i]);
+    CHECK_EQ(started, THREADS);
+    churn();
+    while (__atomic_load_n(&threads_done, __ATOMIC_ACQUIRE) < started) {
+        long r;
+        __asm__ volatile("int $0x80" : "=a"(r) : "a"(158 /* sched_yield */) : "memory");
+    }
+    CHECK_EQ(thread_faults, 0);
+}
+
+int main(void) {
+    distinct_blocks();
+    zero_fill();
+    resizing();
+    failures();
+    memory_returns();
+    threads();
+    return t_finish();
+}
