@@ -1,6 +1,7 @@
 /* Floating point to signed 64 bits, truncated, saturating at both ends.
    The upper limit is tested with "not greater than", which a NaN of either
-   sign also satisfies. */
+   sign also satisfies. The unordered compare leaves a quiet NaN without
+   raising the invalid flag. */
 #include "arith/x87.inc"
 
         .section .rodata
@@ -23,10 +24,10 @@ FUNCTION _orvane_cvtfll
         /* ECX holds the GOT address from here on. */
 .Lconvert:
         fildll  .Lmax@GOTOFF(%ecx)
-        fcomip  %st(1), %st
+        fucomip %st(1), %st
         jbe     .Lhigh
         fildll  .Lmin@GOTOFF(%ecx)
-        fcomip  %st(1), %st
+        fucomip %st(1), %st
         jae     .Llow
         fistpll (%esp)
         movl    (%esp), %eax
