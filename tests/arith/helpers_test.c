@@ -140,6 +140,9 @@ static void test_conversions(void) {
     for (unsigned i = 0; i < sizeof values / sizeof values[0]; ++i) {
         CHECK_HEX(_orvane_cvtdll(values[i]), want[i]);
         CHECK_HEX(_orvane_slow_cvtdll(values[i]), i == 8 ? MIN64 : want[i]); /* NaN's sign */
+        float f = (float)values[i];  /* the float forms agree with the double ones */
+        CHECK_HEX(_orvane_cvtfll(f), _orvane_cvtdll(f));
+        CHECK_HEX(_orvane_slow_cvtfll(f), _orvane_slow_cvtdll(f));
     }
     CHECK_HEX(_orvane_cvtfll(bitsf(0xFFC00000)), MAX64);
     CHECK_HEX(_orvane_slow_cvtfll(bitsf(0xFFC00000)), MIN64);

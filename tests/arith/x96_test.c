@@ -39,6 +39,9 @@ static void test_wide_integers(void) {
     CHECK_X96(w, 6, 0, 0);
     _sub96(&w[0], &w[1], &w[2], 1);
     CHECK_X96(w, 5, 0xFFFFFFFF, 0xFFFFFFFF);
+    _sub96(&w[0], &w[1], &w[2], 0xFFFFFFFE);  /* no borrow */
+    CHECK_X96(w, 5, 0xFFFFFFFF, 1);
+    _add96(&w[0], &w[1], &w[2], 0xFFFFFFFE);
     _add96(&w[0], &w[1], &w[2], 0);       /* no carry: nothing moves */
     CHECK_X96(w, 5, 0xFFFFFFFF, 0xFFFFFFFF);
     _add64(&w[1], &w[2], 0x20);            /* the carry out of the top is lost */
