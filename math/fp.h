@@ -1,0 +1,125 @@
+// What every function of the double and float families shares: access to
+// the bits, the comparisons with their NaN rule, the truncating conversion,
+// rounding to float, and the error values.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+
+#include "include/errno.h"
+
+namespace orv::m {
+
+using u32 = std::uint32_t;
+using u64 = std::uint64_t;
+using i32 = std::int32_t;
+
+inline u64 bits(double x) { return std::bit_cast<u64>(x); }
+inline double from_bits(u64 b) { return std::bit_cast<double>(b); }
+inline u32 fbits(float x) { return std::bit_cast<u32>(x); }
+inline float from_fbits(u32 b) { return std::bit_cast<float>(b); }
+
+inline u32 hi(double x) { return static_cast<u32>(bits(x) >> 32); }
+inline u32 lo(double x) { return static_cast<u32>(bits(x)); }
+inline double from_words(u32 h, u32 l) { return from_bits((u64(h) << 32) | l); }
+
+inline int exp_field(double x) { return static_cast<int>((hi(x) >> 20) & 0x7FF); }
+inline int fexp_field(float x) { return static_cast<int>((fbits(x) >> 23) & 0xFF); }
+
+inline double with_exp_field(double x, u32 e) {
+    return from_bits((bits(x) & ~(u64(0x7FF) << 52)) | (u64(e & 0x7FF) << 52));
+}
+inline float with_fexp_field(float x, u32 e) {
+    return from_fbits((fbits(x) & ~(u32(0xFF) << 23)) | ((e & 0xFF) << 23));
+}
+
+// Adds n to the exponent field, sign and fraction kept; the callers know
+// the field stays in range.
+inline double add_exp(double x, int n) { return from_bits(bits(x) + (u64(u32(n)) << 52)); }
+inline float add_fexp(float x, int n) { return from_fbits(fbits(x) + (u32(n) << 23)); }
+
+inline constexpr double kDoubleNan = std::bit_cast<double>(u64(0x7FF8000000000000));
+inline constexpr double kDoubleInf = std::bit_cast<double>(u64(0x7FF0000000000000));
+inline constexpr float kFloatNan = std::bit_cast<float>(u32(0x7FC00000));
+inline constexpr float kFloatInf = std::bit_cast<float>(u32(0x7F800000));
+
+// Below this magnitude the kernels return their argument: 2^-26.5, and
+// 2^-12 for the float kernels.
+inline constexpr double kEps = std::bit_cast<double>(u64(0x3E46A09E667F3BC8));
+inline constexpr double kEpsF = 1.0 / 4096;
+
+inline double domain_error(double r) { errno = EDOM; return r; }
+inline double range_error(double r) { errno = ERANGE; return r; }
+
+// The comparisons of the family. One FUCOMI of left against right decides
+// each: an unordered pair sets ZF and CF as "equal" and "below" together,
+// so with a NaN on either side the left operand is less than and equal to
+// the right one. Written as instructions so that the compiler can neither
+// swap the operands nor fold the test under IEEE rules.
+inline bool lt(double a, double b) {
+    bool r;
+    __asm__("fucomi %%st(1), %%st" : "=@ccb"(r) : "t"(a), "u"(b) : "cc");
+    return r;
+}
+inline bool le(double a, double b) {
+    bool r;
+    __asm__("fucomi %%st(1), %%st" : "=@ccbe"(r) : "t"(a), "u"(b) : "cc");
+    return r;
+}
+inline bool eq(double a, double b) {
+    bool r;
+    __asm__("fucomi %%st(1), %%st" : "=@ccz"(r) : "t"(a), "u"(b) : "cc");
+    return r;
+}
+inline bool gt(double a, double b) { return !le(a, b); }
+inline bool ge(double a, double b) { return !lt(a, b); }
+inline bool ne(double a, double b) { return !eq(a, b); }
+
+// Truncation toward zero to 32 bits whatever the rounding mode; a NaN or a
+// value out of range gives -2147483648. FISTP rounds to nearest and yields
+// that value itself for NaNs and overflows; one step corrects the rounding.
+inline i32 to_i32(double x) {
+    i32 n;
+    __asm__("fistl %0" : "=m"(n) : "t"(x));
+    double d = n;
+    if (x >= 0) {
+        if (d > x) --n;
+        else if (n == INT32_MIN && x < 2147483648.0) n = INT32_MAX;  // rounded up out of range
+    } else if (d < x) {
+        ++n;
+    }
+    return n;
+}
+
+// The value as a float, rounded through memory: the compiler may keep a
+// float in a wider register otherwise.
+inline float to_float(double x) {
+    float f = static_cast<float>(x);
+    __asm__("" : "+m"(f));
+    return f;
+}
+
+// The value as a double held in memory, so that an out-of-range
+// intermediate of the x87 unit cannot survive as a finite number.
+inline double to_double(double x) {
+    __asm__("" : "+m"(x));
+    return x;
+}
+
+inline double fsqrt(double x) {
+    __asm__("fsqrt" : "+t"(x));
+    return x;
+}
+
+// FPATAN: the arctangent of y over x, here always with x = 1.
+inline double fpatan(double y, double x) {
+    double r;
+    __asm__("fpatan" : "=t"(r) : "0"(x), "u"(y) : "st(1)");
+    return r;
+}
+
+// Truncation to an integral value on the bits alone.
+double dint(double x);
+float aint(float x);
+
+}  // namespace orv::m
