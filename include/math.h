@@ -9,7 +9,7 @@
    arithmetic and opens sqrt inline with FSQRT, and the program would not
    see this library's results. Define _ORV_MATH_BUILTINS to keep them. */
 #if defined(__GNUC__) && !defined(__cplusplus) && !defined(_ORV_MATH_BUILTINS)
-#define _ORV_MFN(name) __orv_m_##name __asm__(#name)
+#define _ORV_ASM(name) __asm__(#name)
 #define ceil __orv_m_ceil
 #define floor __orv_m_floor
 #define fabs __orv_m_fabs
@@ -56,7 +56,7 @@
 #define atan2f __orv_m_atan2f
 #define modff __orv_m_modff
 #else
-#define _ORV_MFN(name) name
+#define _ORV_ASM(name)
 #endif
 
 _ORV_BEGIN
@@ -71,31 +71,31 @@ extern float __FLOAT_NAN;
 
 #define HUGE_VAL __DOUBLE_INF
 
-double _ORV_MFN(ceil)(double x);
-double _ORV_MFN(floor)(double x);
-double _ORV_MFN(fabs)(double x);
-double _ORV_MFN(exp)(double x);
-double _ORV_MFN(log)(double x);
-double _ORV_MFN(log10)(double x);
-double _ORV_MFN(sqrt)(double x);
-double _ORV_MFN(sin)(double x);
-double _ORV_MFN(cos)(double x);
-double _ORV_MFN(tan)(double x);
-double _ORV_MFN(asin)(double x);
-double _ORV_MFN(acos)(double x);
-double _ORV_MFN(atan)(double x);
-double _ORV_MFN(sinh)(double x);
-double _ORV_MFN(cosh)(double x);
-double _ORV_MFN(tanh)(double x);
-double _ORV_MFN(fmod)(double x, double y);
-double _ORV_MFN(pow)(double x, double y);
-double _ORV_MFN(atan2)(double y, double x);
-double _ORV_MFN(frexp)(double x, int *e);
-double _ORV_MFN(ldexp)(double x, int n);
-double _ORV_MFN(modf)(double x, double *ip);
-int _ORV_MFN(isnan)(double x);
-double _ORV_MFN(copysign)(double x, double y);
-double _ORV_MFN(rint)(double x);
+double ceil(double x) _ORV_ASM(ceil);
+double floor(double x) _ORV_ASM(floor);
+double fabs(double x) _ORV_ASM(fabs);
+double exp(double x) _ORV_ASM(exp);
+double log(double x) _ORV_ASM(log);
+double log10(double x) _ORV_ASM(log10);
+double sqrt(double x) _ORV_ASM(sqrt);
+double sin(double x) _ORV_ASM(sin);
+double cos(double x) _ORV_ASM(cos);
+double tan(double x) _ORV_ASM(tan);
+double asin(double x) _ORV_ASM(asin);
+double acos(double x) _ORV_ASM(acos);
+double atan(double x) _ORV_ASM(atan);
+double sinh(double x) _ORV_ASM(sinh);
+double cosh(double x) _ORV_ASM(cosh);
+double tanh(double x) _ORV_ASM(tanh);
+double fmod(double x, double y) _ORV_ASM(fmod);
+double pow(double x, double y) _ORV_ASM(pow);
+double atan2(double y, double x) _ORV_ASM(atan2);
+double frexp(double x, int *e) _ORV_ASM(frexp);
+double ldexp(double x, int n) _ORV_ASM(ldexp);
+double modf(double x, double *ip) _ORV_ASM(modf);
+int isnan(double x) _ORV_ASM(isnan);
+double copysign(double x, double y) _ORV_ASM(copysign);
+double rint(double x) _ORV_ASM(rint);
 
 /* Helpers that compiled code and the other number families call. */
 double __sincos(double x, int flag);     /* 0: sine, else cosine */
@@ -105,26 +105,26 @@ float __aint(float x);
 double __orvane_dtoi_c(double x, int n); /* x to the integer power n */
 float __orvane_ftoi_c(float x, int n);
 
-float _ORV_MFN(ceilf)(float x);
-float _ORV_MFN(floorf)(float x);
-float _ORV_MFN(fabsf)(float x);
-float _ORV_MFN(expf)(float x);
-float _ORV_MFN(logf)(float x);
-float _ORV_MFN(log10f)(float x);
-float _ORV_MFN(sqrtf)(float x);
-float _ORV_MFN(sinf)(float x);
-float _ORV_MFN(cosf)(float x);
-float _ORV_MFN(tanf)(float x);
-float _ORV_MFN(asinf)(float x);
-float _ORV_MFN(acosf)(float x);
-float _ORV_MFN(atanf)(float x);
-float _ORV_MFN(sinhf)(float x);
-float _ORV_MFN(coshf)(float x);
-float _ORV_MFN(tanhf)(float x);
-float _ORV_MFN(fmodf)(float x, float y);
-float _ORV_MFN(powf)(float x, float y);
-float _ORV_MFN(atan2f)(float y, float x);
-float _ORV_MFN(modff)(float x, float *ip);
+float ceilf(float x) _ORV_ASM(ceilf);
+float floorf(float x) _ORV_ASM(floorf);
+float fabsf(float x) _ORV_ASM(fabsf);
+float expf(float x) _ORV_ASM(expf);
+float logf(float x) _ORV_ASM(logf);
+float log10f(float x) _ORV_ASM(log10f);
+float sqrtf(float x) _ORV_ASM(sqrtf);
+float sinf(float x) _ORV_ASM(sinf);
+float cosf(float x) _ORV_ASM(cosf);
+float tanf(float x) _ORV_ASM(tanf);
+float asinf(float x) _ORV_ASM(asinf);
+float acosf(float x) _ORV_ASM(acosf);
+float atanf(float x) _ORV_ASM(atanf);
+float sinhf(float x) _ORV_ASM(sinhf);
+float coshf(float x) _ORV_ASM(coshf);
+float tanhf(float x) _ORV_ASM(tanhf);
+float fmodf(float x, float y) _ORV_ASM(fmodf);
+float powf(float x, float y) _ORV_ASM(powf);
+float atan2f(float y, float x) _ORV_ASM(atan2f);
+float modff(float x, float *ip) _ORV_ASM(modff);
 
 float __sinfcosf_c(float x, int flag);   /* 0: sine, else cosine */
 float __asinfacosf(float x, int flag);   /* 0: arcsine, 1: arccosine */

@@ -12,8 +12,10 @@ double dint(double x) {
     u32 h = hi(x), l = lo(x);
     if (e > 0x433) return x;  // integral already, or infinity or NaN
     if (e < 0x3FF) return 0.0;  // a fraction: +0 whatever the sign
-    if (e >= 0x413) {
+    if (e > 0x413) {
         l &= 0xFFFFFFFFu << (0x433 - e);
+    } else if (e == 0x413) {
+        l = 0;
     } else {
         l = 0;
         h &= 0xFFFFFFFFu << (0x413 - e);
