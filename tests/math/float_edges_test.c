@@ -105,15 +105,16 @@ static void powers(void) {
     CHECK_F(powf(2.0f, -1.0f), BF(0.5f), OK);
     CHECK_F(powf(-2.0f, 2147483648.0f), 0, OK); /* |x|, then +0 */
     CHECK_F(powf(2.0f, 0.5f), BF(1.4142135f), OK);
-    CHECK_F(powf(10.0f, 38.5f), FPINF, OK);
-    CHECK_F(powf(10.0f, -39.5f), 0, OK);
+    CHECK_F(powf(10.0f, 39.5f), FPINF, OK);
+    CHECK(powf(10.0f, 38.5f) < F(FPINF));
+    CHECK_F(powf(10.0f, -45.5f), 0, OK);
     CHECK_F(powf(__FLOAT_NAN, 0.0f), BF(1.0f), OK);
     CHECK_F(powf(3.0f, __FLOAT_NAN), BF(1.0f), OK);
     CHECK_F(powf(0.0f, 0.5f), 0, OK);
     CHECK_F(powf(0.0f, -0.5f), FPINF, EDOM);
     CHECK_F(powf(0.0f, -1.0f), FPINF, OK);
     CHECK_F(powf(-8.0f, 0.5f), FNAN, EDOM);
-    CHECK_F(powf(-2.0f, 3.5e7f), 0x7F800000U, OK);  /* integral, |x|, even: no EDOM */
+    CHECK_F(powf(-2.0f, 3.5e7f), FPINF, OK);  /* integral and even: no EDOM */
 }
 
 int main(void) {
