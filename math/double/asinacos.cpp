@@ -10,7 +10,7 @@ extern "C" ORV_EXPORT double __asinacos(double x, int flag) {
     constexpr double p = 0.7853981633974483;  // pi/4
     constexpr double h = 1.5707963267948966;  // pi/2
     int i = flag ? 1 : 0;
-    double y = fabs(x);
+    double y = absd(x);
     if (gt(0.0, x)) i += 2;
     if (!ge(kEps, y)) {
         double g;

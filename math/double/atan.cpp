@@ -18,7 +18,7 @@ extern "C" ORV_EXPORT double atan(double x) {
         ++n;
         x = (((0.7320508075688773 * x - 0.5) - 0.5) + x) / (x + 1.7320508075688772);
     }
-    if (gt(fabs(x), kEps)) {
+    if (gt(absd(x), kEps)) {
         const double g = x * x;
         const double pg = (((-0.8375829936815006 * g - 8.494624035132068) * g -
                             20.505855195861653) * g - 13.688768894191927) * g;

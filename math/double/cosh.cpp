@@ -5,6 +5,6 @@
 using namespace orv::m;
 
 extern "C" ORV_EXPORT double cosh(double x) {
-    const double z = exp(fabs(x));
+    const double z = exp(absd(x));
     return (z + 1.0 / z) * 0.5;
 }

@@ -8,5 +8,5 @@ using namespace orv::m;
 
 extern "C" ORV_EXPORT double rint(double x) {
     if (ge(x, 0.0)) return dint(x + 0.5);
-    return -dint(fabs(x) + 0.5);
+    return -dint(absd(x) + 0.5);
 }

@@ -7,7 +7,7 @@
 using namespace orv::m;
 
 extern "C" ORV_EXPORT double __sincos(double x, int flag) {
-    const double ax = fabs(x);
+    const double ax = absd(x);
     double y = ax;
     bool negate = false;
     if (flag) y = y + 1.5707963267948966;
@@ -19,7 +19,7 @@ extern "C" ORV_EXPORT double __sincos(double x, int flag) {
     if (flag) xn = xn - 0.5;
     // 3.1416015625 = 3217/1024 has 12 significant bits.
     double f = (ax - xn * 3.1416015625) - xn * -8.908910206761538e-06;
-    if (!lt(fabs(f), kEps)) {
+    if (!lt(absd(f), kEps)) {
         const double g = f * f;
         const double r =
             ((((((2.7204790957888847e-15 * g - 7.642917806891047e-13) * g +

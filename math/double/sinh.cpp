@@ -6,7 +6,7 @@ using namespace orv::m;
 
 extern "C" ORV_EXPORT double sinh(double x) {
     const bool negative = gt(0.0, x);
-    const double y = fabs(x);
+    const double y = absd(x);
     if (!ge(1.0, y)) {
         const double z = exp(y);
         const double r = (z - 1.0 / z) * 0.5;

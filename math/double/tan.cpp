@@ -7,13 +7,13 @@
 using namespace orv::m;
 
 extern "C" ORV_EXPORT double tan(double x) {
-    if (!ge(149078417.58088, fabs(x))) return 0.0;
-    i32 n = to_i32(fabs(x) * 0.6366197723675814 + 0.5);
+    if (!ge(149078417.58088, absd(x))) return 0.0;
+    i32 n = to_i32(absd(x) * 0.6366197723675814 + 0.5);
     if (gt(0.0, x)) n = -n;
     const double xn = n;
     const double f = (x - xn * 1.57080078125) - xn * -4.454455103380769e-06;
     double num = f, den = 1.0;
-    if (!lt(fabs(f), kEps)) {
+    if (!lt(absd(f), kEps)) {
         const double g = f * f;
         num = f + f * g *
             ((-1.7861707342254428e-05 * g + 0.003424887823589059) * g - 0.13338350006421962);

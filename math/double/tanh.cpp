@@ -5,7 +5,7 @@
 using namespace orv::m;
 
 extern "C" ORV_EXPORT double tanh(double x) {
-    const double y = fabs(x);
+    const double y = absd(x);
     double r;
     if (!ge(19.0615474653985, y)) {
         r = 1.0;

@@ -10,7 +10,7 @@ extern "C" ORV_EXPORT float __asinfacosf(float xf, int flag) {
     const double h = 1.5707964f;
     const double x = xf;
     int i = flag ? 1 : 0;
-    double y = fabs(x);
+    double y = absd(x);
     if (gt(0.0, x)) i += 2;
     if (!ge(kEpsF, y)) {
         double g;

@@ -18,7 +18,7 @@ extern "C" ORV_EXPORT float atanf(float xf) {
         x = (((static_cast<double>(0.73205084f) * x - 0.5) - 0.5) + x) /
             (x + static_cast<double>(1.7320508f));
     }
-    if (gt(fabs(x), kEpsF)) {
+    if (gt(absd(x), kEpsF)) {
         const double g = x * x;
         const double pg = (static_cast<double>(-0.050909583f) * g - static_cast<double>(0.47083253f)) * g;
         const double qg = g + static_cast<double>(1.4125007f);

@@ -5,6 +5,6 @@
 using namespace orv::m;
 
 extern "C" ORV_EXPORT float coshf(float x) {
-    const double z = expf(fabsf(x));
+    const double z = expf(absd(x));
     return to_float((z + 1.0 / z) * 0.5);
 }

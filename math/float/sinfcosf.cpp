@@ -6,7 +6,7 @@
 using namespace orv::m;
 
 extern "C" ORV_EXPORT float __sinfcosf_c(float xf, int flag) {
-    const double ax = fabsf(xf);
+    const double ax = absd(xf);
     double y = ax;
     bool negate = false;
     if (flag) y = to_float(y + static_cast<double>(1.5707964f));
@@ -18,7 +18,7 @@ extern "C" ORV_EXPORT float __sinfcosf_c(float xf, int flag) {
     if (flag) xn = to_float(xn - 0.5);
     // 3.140625 is below pi, so the second part is positive.
     double f = (ax - xn * 3.140625) - xn * static_cast<double>(0.00096765364f);
-    if (!lt(fabs(f), kEpsF)) {
+    if (!lt(absd(f), kEpsF)) {
         const double g = f * f;
         const double r = ((static_cast<double>(2.6019031e-06f) * g -
                            static_cast<double>(0.00019807418f)) * g +

@@ -7,7 +7,7 @@ using namespace orv::m;
 extern "C" ORV_EXPORT float sinhf(float xf) {
     const double x = xf;
     const bool negative = gt(0.0, x);
-    const double y = fabs(x);
+    const double y = absd(x);
     if (!ge(1.0, y)) {
         const double z = expf(static_cast<float>(y));
         const double r = (z - 1.0 / z) * 0.5;

@@ -5,7 +5,7 @@
 using namespace orv::m;
 
 extern "C" ORV_EXPORT float tanhf(float xf) {
-    const double y = fabsf(xf);
+    const double y = absd(xf);
     double r;
     if (!ge(from_fbits(0x41102CB8), y)) {
         r = 1.0;
