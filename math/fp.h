@@ -85,15 +85,18 @@ inline bool ne(double a, double b) { return !eq(a, b); }
 inline i32 to_i32(double x) {
     i32 n;
     __asm__("fistl %0" : "=m"(n) : "t"(x));
-    double d = n;
-    if (x >= 0) {
-        if (d > x) --n;
-        else if (n == INT32_MIN && x < 2147483648.0) n = INT32_MAX;  // rounded up out of range
-    } else if (d < x) {
-        ++n;
-    }
+    const double d = n;
+    // One step toward zero where the rounding went away from it; no
+    // branch on the sign, which callers meet at random.
+    const bool negative = x < 0;
+    n -= static_cast<i32>(!negative & (d > x));
+    n += static_cast<i32>(negative & (d < x));
+    if (n == INT32_MIN && x >= 0 && x < 2147483648.0) n = INT32_MAX;  // rounded up out of range
     return n;
 }
+
+// 1 and -1 by a flag, to set a sign by multiplication rather than a branch.
+inline constexpr double kSign[2] = {1.0, -1.0};
 
 // The value as a float, rounded through memory: the compiler may keep a
 // float in a wider register otherwise.
@@ -120,6 +123,20 @@ inline double fpatan(double y, double x) {
     double r;
     __asm__("fpatan" : "=t"(r) : "0"(x), "u"(y) : "st(1)");
     return r;
+}
+
+// Exact powers of two for scaling in registers: 2^(64i - 1040) and 2^j.
+// Writing integer words and reading them back as a double stalls the
+// processor's store forwarding; two multiplications by exact powers of two
+// give the same result whenever it is a normal number.
+extern const double pow2_coarse[33];
+extern const double pow2_fine[64];
+
+// x times 2^k, for k in [-1040, 1071]; the product of x by the fine factor
+// comes first, so that only the last product can leave the double range.
+inline double scale2(double x, int k) {
+    const unsigned i = static_cast<unsigned>(k + 1040);
+    return x * pow2_fine[i & 63] * pow2_coarse[i >> 6];
 }
 
 // Truncation to an integral value on the bits alone.

@@ -9,7 +9,8 @@ extern "C" ORV_EXPORT double exp(double x) {
     if (!ge(709.089565712824, x)) return range_error(kDoubleInf);  // also NaN
     if (gt(-708.396418532264, x)) return 0.0;
     const double t = x * 1.4426950408889634;
-    const i32 n = ge(t, 0.0) ? to_i32(t + 0.5) : to_i32(t - 0.5);
+    constexpr double half[2] = {-0.5, 0.5};
+    const i32 n = to_i32(t + half[ge(t, 0.0)]);  // nearest, ties away from zero
     const double xn = n;
     // 0.693359375 has 9 significant bits, so xn times it is exact.
     const double g = (x - xn * 0.693359375) - xn * -0.00021219444005469057;
@@ -17,5 +18,5 @@ extern "C" ORV_EXPORT double exp(double x) {
     const double gp = g * ((1.6520330026827912e-05 * z + 0.006943600015117929) * z + 0.25);
     const double q = (0.0004958628849054413 * z + 0.05555386669690012) * z + 0.5;
     const double r = 0.5 + gp / (q - gp);
-    return add_exp(r, n + 1);
+    return scale2(r, n + 1);  // r has its exponent field raised by n + 1
 }

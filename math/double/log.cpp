@@ -35,9 +35,11 @@ extern "C" ORV_EXPORT double log(double x) {
         return log_near_one(x);
     const int m = exp_field(x) - 1023;
     if (m == 0x400) return kDoubleInf;
-    const double y = with_exp_field(x, 0x3FF);
-    int j = static_cast<int>((hi(y) >> 13) & 0x7F);
-    double f = y - from_words(hi(y) & 0xFFFFE000u, 0);
+    // Y is x with the exponent field 0x3FF; a denormal keeps its fraction
+    // field as if the hidden bit were set.
+    const double y = m == -1023 ? with_exp_field(x, 0x3FF) : scale2(x, -m);
+    int j = static_cast<int>((hi(x) >> 13) & 0x7F);
+    double f = y - (1.0 + j * (1.0 / 128));
     if (lt(1.0 / 256, f)) {
         ++j;
         f = f - 1.0 / 128;

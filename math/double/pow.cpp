@@ -59,8 +59,10 @@ extern "C" ORV_EXPORT double pow(double x, double y) {
     }
 
     // log2 x = m - p/16 + log2(g / A1[p]), g in [0.5, 1).
-    const int m = exp_field(x) - 1022;
-    const double g = with_exp_field(x, 0x3FE);
+    const int field = exp_field(x);
+    const int m = field - 1022;
+    // Denormals and infinities by their bits: neither is normalised.
+    const double g = field == 0 || field == 0x7FF ? with_exp_field(x, 0x3FE) : scale2(x, -m);
     int p = 0;
     if (ge(a1(8), g)) p = 8;
     if (ge(a1(p + 4), g)) p += 4;
@@ -99,6 +101,6 @@ extern "C" ORV_EXPORT double pow(double x, double y) {
                                 0.0013333541313585784) * w2 + 0.009618129059517241) * w2 +
                               0.055504108664085595) * w2 + 0.24022650695909537) * w2 +
                             0.6931471805599453);
-    const double res = add_exp(a1(pp) + zz * a1(pp), big_m);
+    const double res = scale2(a1(pp) + zz * a1(pp), big_m);
     return negate ? -res : res;
 }

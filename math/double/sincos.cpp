@@ -9,13 +9,13 @@ using namespace orv::m;
 extern "C" ORV_EXPORT double __sincos(double x, int flag) {
     const double ax = absd(x);
     double y = ax;
-    bool negate = false;
+    unsigned negate = 0;
     if (flag) y = y + 1.5707963267948966;
     else negate = gt(0.0, x);
     if (!ge(298156835.16176, y)) return 0.0;  // no significance left; also inf, NaN
     const i32 n = to_i32(y * 0.3183098861837907 + 0.5);
     double xn = n;
-    if (n & 1) negate = !negate;
+    negate ^= n & 1;
     if (flag) xn = xn - 0.5;
     // 3.1416015625 = 3217/1024 has 12 significant bits.
     double f = (ax - xn * 3.1416015625) - xn * -8.908910206761538e-06;
@@ -28,5 +28,5 @@ extern "C" ORV_EXPORT double __sincos(double x, int flag) {
              0.008333333333333165) * g - 0.16666666666666666;
         f = f + f * g * r;
     }
-    return negate ? -f : f;
+    return f * kSign[negate];
 }

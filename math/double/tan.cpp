@@ -20,5 +20,7 @@ extern "C" ORV_EXPORT double tan(double x) {
         den = (((4.981943399378651e-07 * g - 0.00031181531907010027) * g +
                 0.025663832289440112) * g - 0.46671683339755293) * g + 1.0;
     }
-    return (n & 1) ? den / -num : num / den;
+    // num / den on even n, den / -num on odd n, chosen without a branch
+    const double parts[3] = {num, den, -num};
+    return parts[n & 1] / parts[1 + (n & 1)];
 }

@@ -8,13 +8,13 @@ using namespace orv::m;
 extern "C" ORV_EXPORT float __sinfcosf_c(float xf, int flag) {
     const double ax = absd(xf);
     double y = ax;
-    bool negate = false;
+    unsigned negate = 0;
     if (flag) y = to_float(y + static_cast<double>(1.5707964f));
     else negate = gt(0.0, xf);
     if (!ge(8192.0, y)) return 0.0f;
     const i32 n = to_i32(y * static_cast<double>(0.31830987f) + 0.5);
     double xn = to_float(n);
-    if (n & 1) negate = !negate;
+    negate ^= n & 1;
     if (flag) xn = to_float(xn - 0.5);
     // 3.140625 is below pi, so the second part is positive.
     double f = (ax - xn * 3.140625) - xn * static_cast<double>(0.00096765364f);
@@ -26,5 +26,5 @@ extern "C" ORV_EXPORT float __sinfcosf_c(float xf, int flag) {
                          static_cast<double>(0.16666657f);
         f = f + f * (g * r);
     }
-    return to_float(negate ? -f : f);
+    return to_float(f * kSign[negate]);
 }

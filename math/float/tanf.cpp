@@ -17,5 +17,6 @@ extern "C" ORV_EXPORT float tanf(float xf) {
         num = to_float(f + g * static_cast<double>(-0.09580177f) * f);
         den = to_float((static_cast<double>(0.009716858f) * g - static_cast<double>(0.42913577f)) * g + 1.0);
     }
-    return to_float((n & 1) ? den / -num : num / den);
+    const double parts[3] = {num, den, -num};
+    return to_float(parts[n & 1] / parts[1 + (n & 1)]);
 }
