@@ -80,23 +80,57 @@ inline bool ge(double a, double b) { return !lt(a, b); }
 inline bool ne(double a, double b) { return !eq(a, b); }
 
 // Truncation toward zero to 32 bits whatever the rounding mode; a NaN or a
-// value out of range gives -2147483648. FISTP rounds to nearest and yields
-// that value itself for NaNs and overflows; one step corrects the rounding.
+// value out of range gives -2147483648. FIST rounds by the current mode
+// and yields that value itself for NaNs and overflows; one step toward
+// zero corrects the rounding, with no branch on the sign, which callers
+// meet at random.
+inline constexpr double kStep[4] = {0.0, -1.0, 1.0, 0.0};
+
+// The truncated value as a double; stores it as an integer in *n.
+inline double trunc_i32(double x, i32 *n) {
+    i32 r;
+    __asm__("fistl %0" : "=m"(r) : "t"(x));
+    const double d = r;
+    const unsigned down = !(x < 0) & (d > x);  // rounded up, above zero
+    const unsigned up = (x < 0) & (d < x);     // rounded down, below zero
+    r = r - static_cast<i32>(down) + static_cast<i32>(up);
+    if (r == INT32_MIN && x >= 0 && x < 2147483648.0) {  // rounded up out of range
+        *n = INT32_MAX;
+        return 2147483647.0;
+    }
+    *n = r;
+    return d + kStep[down | (up << 1)];
+}
+
 inline i32 to_i32(double x) {
     i32 n;
-    __asm__("fistl %0" : "=m"(n) : "t"(x));
-    const double d = n;
-    // One step toward zero where the rounding went away from it; no
-    // branch on the sign, which callers meet at random.
-    const bool negative = x < 0;
-    n -= static_cast<i32>(!negative & (d > x));
-    n += static_cast<i32>(negative & (d < x));
-    if (n == INT32_MIN && x >= 0 && x < 2147483648.0) n = INT32_MAX;  // rounded up out of range
+    trunc_i32(x, &n);
     return n;
+}
+
+// The conversion of a value that is integral already, or out of range or
+// NaN (which give -2147483648): FIST alone, in any rounding mode.
+inline i32 integral_to_i32(double x) {
+    i32 r;
+    __asm__("fistl %0" : "=m"(r) : "t"(x));
+    return r;
+}
+
+// Truncation of a value the caller knows to lie within (-2^31, 2^31),
+// without leaving the registers: 1.5 * 2^52 added and taken away rounds to
+// an integer at 53-bit precision, and a step toward zero corrects the
+// rounding as in trunc_i32.
+inline double trunc_small(double u) {
+    constexpr double kRound = 6755399441055744.0;
+    const double r = (u + kRound) - kRound;
+    const unsigned down = !(u < 0) & (r > u);
+    const unsigned up = (u < 0) & (r < u);
+    return r + kStep[down | (up << 1)];
 }
 
 // 1 and -1 by a flag, to set a sign by multiplication rather than a branch.
 inline constexpr double kSign[2] = {1.0, -1.0};
+inline constexpr double kHalf[2] = {-0.5, 0.5};
 
 // The value as a float, rounded through memory: the compiler may keep a
 // float in a wider register otherwise.

@@ -20,7 +20,10 @@ constexpr double kA2[8] = {
 double a1(int j) { return table(pow_a1, j); }
 
 // The value truncated to a multiple of 1/16.
-double reduce(double v) { return to_i32(16.0 * v) * 0.0625; }
+double reduce(double v) {
+    i32 n;
+    return trunc_i32(16.0 * v, &n) * 0.0625;
+}
 
 // Whether y, of unbiased exponent e >= 0, has no bit below the binary point.
 bool integral(double y, int e) {
@@ -87,15 +90,16 @@ extern "C" ORV_EXPORT double pow(double x, double y) {
     w1 = reduce(w);
     w2 = w2 + (w - w1);
     const double r16 = reduce(w2);
-    i32 i = to_i32(16.0 * (w1 + r16));
+    i32 i = integral_to_i32(16.0 * (w1 + r16));  // sixteenths: integral already
     w2 = w2 - r16;
     if (i > 16382) return kDoubleInf;
     if (i < -16350) return 0.0;  // also every conversion out of range above
-    if (!gt(0.0, w2)) {
-        w2 = w2 - 0.0625;
-        ++i;
-    }
-    const int big_m = i / 16 + (i > 0 ? 1 : 0);
+    // Unless 0 > W2, one sixteenth moves from W2 to I; without a branch.
+    constexpr double sixteenth[2] = {0.0, 0.0625};
+    const unsigned move = !gt(0.0, w2);
+    w2 = w2 - sixteenth[move];
+    i += static_cast<i32>(move);
+    const int big_m = i / 16 + static_cast<int>(i > 0);
     const int pp = 16 * big_m - i;
     const double zz = w2 * ((((((1.4928852680595609e-05 * w2 + 0.00015400290440989765) * w2 +
                                 0.0013333541313585784) * w2 + 0.009618129059517241) * w2 +
