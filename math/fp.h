@@ -35,7 +35,6 @@ inline float with_fexp_field(float x, u32 e) {
 
 // Adds n to the exponent field, sign and fraction kept; the callers know
 // the field stays in range.
-inline double add_exp(double x, int n) { return from_bits(bits(x) + (u64(u32(n)) << 52)); }
 inline float add_fexp(float x, int n) { return from_fbits(fbits(x) + (u32(n) << 23)); }
 
 inline constexpr double kDoubleNan = std::bit_cast<double>(u64(0x7FF8000000000000));
@@ -140,10 +139,11 @@ inline float to_float(double x) {
     return f;
 }
 
-// The value as a double held in memory, so that an out-of-range
-// intermediate of the x87 unit cannot survive as a finite number.
-inline double to_double(double x) {
-    __asm__("" : "+m"(x));
+// A register value rounded to the 53 bits of a double: an addition of zero
+// obeys the precision control, which the transcendental instructions
+// ignore. (A trip through memory would do the same, at a greater cost.)
+inline double round53(double x) {
+    __asm__("fldz\n\tfaddp %%st, %%st(1)" : "+t"(x));
     return x;
 }
 
