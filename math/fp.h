@@ -127,6 +127,14 @@ inline double trunc_small(double u) {
     return r + kStep[down | (up << 1)];
 }
 
+// The same for a value known to be positive.
+inline double trunc_small_pos(double u) {
+    constexpr double kRound = 6755399441055744.0;
+    constexpr double kDown[2] = {0.0, 1.0};
+    const double r = (u + kRound) - kRound;
+    return r - kDown[r > u];
+}
+
 // 1 and -1 by a flag, to set a sign by multiplication rather than a branch.
 inline constexpr double kSign[2] = {1.0, -1.0};
 inline constexpr double kHalf[2] = {-0.5, 0.5};

@@ -13,7 +13,7 @@ extern "C" ORV_EXPORT double __sincos(double x, int flag) {
     if (flag) y = y + 1.5707963267948966;
     else negate = gt(0.0, x);
     if (!ge(298156835.16176, y)) return 0.0;  // no significance left; also inf, NaN
-    double xn = trunc_small(y * 0.3183098861837907 + 0.5);  // below 10^8 here
+    double xn = trunc_small_pos(y * 0.3183098861837907 + 0.5);  // below 10^8 here
     const i32 n = integral_to_i32(xn);
     negate ^= n & 1;
     if (flag) xn = xn - 0.5;

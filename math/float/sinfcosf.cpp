@@ -12,7 +12,7 @@ extern "C" ORV_EXPORT float __sinfcosf_c(float xf, int flag) {
     if (flag) y = to_float(y + static_cast<double>(1.5707964f));
     else negate = gt(0.0, xf);
     if (!ge(8192.0, y)) return 0.0f;
-    double xn = trunc_small(y * static_cast<double>(0.31830987f) + 0.5);  // below 2700 here
+    double xn = trunc_small_pos(y * static_cast<double>(0.31830987f) + 0.5);  // below 2700 here
     const i32 n = integral_to_i32(xn);
     negate ^= n & 1;
     if (flag) xn = to_float(xn - 0.5);
