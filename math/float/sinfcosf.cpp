@@ -15,7 +15,7 @@ extern "C" ORV_EXPORT float __sinfcosf_c(float xf, int flag) {
     double xn = trunc_small_pos(y * static_cast<double>(0.31830987f) + 0.5);  // below 2700 here
     const i32 n = integral_to_i32(xn);
     negate ^= n & 1;
-    if (flag) xn = to_float(xn - 0.5);
+    if (flag) xn = xn - 0.5;  // a float already: xn is below 2^12
     // 3.140625 is below pi, so the second part is positive.
     double f = (ax - xn * 3.140625) - xn * static_cast<double>(0.00096765364f);
     if (!lt(absd(f), kEpsF)) {
