@@ -1,0 +1,7 @@
+#include "include/math.h"
+#include "math/double/sincos.h"
+#include "runtime/export.h"
+
+using namespace orv::m;
+
+extern "C" ORV_EXPORT double cos(double x) { return sincos_kernel(x, 1); }

@@ -1,0 +1,188 @@
+// What every function of the double and float families shares: access to
+// the bits, the comparisons with their NaN rule, the truncating conversion,
+// rounding to float, and the error values.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+
+#include "include/errno.h"
+
+namespace orv::m {
+
+using u32 = std::uint32_t;
+using u64 = std::uint64_t;
+using i32 = std::int32_t;
+
+inline u64 bits(double x) { return std::bit_cast<u64>(x); }
+inline double from_bits(u64 b) { return std::bit_cast<double>(b); }
+inline u32 fbits(float x) { return std::bit_cast<u32>(x); }
+inline float from_fbits(u32 b) { return std::bit_cast<float>(b); }
+
+inline u32 hi(double x) { return static_cast<u32>(bits(x) >> 32); }
+inline u32 lo(double x) { return static_cast<u32>(bits(x)); }
+inline double from_words(u32 h, u32 l) { return from_bits((u64(h) << 32) | l); }
+
+inline int exp_field(double x) { return static_cast<int>((hi(x) >> 20) & 0x7FF); }
+inline int fexp_field(float x) { return static_cast<int>((fbits(x) >> 23) & 0xFF); }
+
+inline double with_exp_field(double x, u32 e) {
+    return from_bits((bits(x) & ~(u64(0x7FF) << 52)) | (u64(e & 0x7FF) << 52));
+}
+inline float with_fexp_field(float x, u32 e) {
+    return from_fbits((fbits(x) & ~(u32(0xFF) << 23)) | ((e & 0xFF) << 23));
+}
+
+// Adds n to the exponent field, sign and fraction kept; the callers know
+// the field stays in range.
+inline float add_fexp(float x, int n) { return from_fbits(fbits(x) + (u32(n) << 23)); }
+
+inline constexpr double kDoubleNan = std::bit_cast<double>(u64(0x7FF8000000000000));
+inline constexpr double kDoubleInf = std::bit_cast<double>(u64(0x7FF0000000000000));
+inline constexpr float kFloatNan = std::bit_cast<float>(u32(0x7FC00000));
+inline constexpr float kFloatInf = std::bit_cast<float>(u32(0x7F800000));
+
+// Below this magnitude the kernels return their argument: 2^-26.5, and
+// 2^-12 for the float kernels.
+inline constexpr double kEps = std::bit_cast<double>(u64(0x3E46A09E667F3BC8));
+inline constexpr double kEpsF = 1.0 / 4096;
+
+// The sign cleared, as one instruction: the library is built without the
+// compiler's built-in knowledge of fabs.
+inline double absd(double x) { return __builtin_fabs(x); }
+
+inline double domain_error(double r) { errno = EDOM; return r; }
+inline double range_error(double r) { errno = ERANGE; return r; }
+
+// The comparisons of the family. One FUCOMI of left against right decides
+// each: an unordered pair sets ZF and CF as "equal" and "below" together,
+// so with a NaN on either side the left operand is less than and equal to
+// the right one. Written as instructions so that the compiler can neither
+// swap the operands nor fold the test under IEEE rules.
+inline bool lt(double a, double b) {
+    bool r;
+    __asm__("fucomi %%st(1), %%st" : "=@ccb"(r) : "t"(a), "u"(b) : "cc");
+    return r;
+}
+inline bool le(double a, double b) {
+    bool r;
+    __asm__("fucomi %%st(1), %%st" : "=@ccbe"(r) : "t"(a), "u"(b) : "cc");
+    return r;
+}
+inline bool eq(double a, double b) {
+    bool r;
+    __asm__("fucomi %%st(1), %%st" : "=@ccz"(r) : "t"(a), "u"(b) : "cc");
+    return r;
+}
+inline bool gt(double a, double b) { return !le(a, b); }
+inline bool ge(double a, double b) { return !lt(a, b); }
+inline bool ne(double a, double b) { return !eq(a, b); }
+
+// Truncation toward zero to 32 bits whatever the rounding mode; a NaN or a
+// value out of range gives -2147483648. FIST rounds by the current mode
+// and yields that value itself for NaNs and overflows; one step toward
+// zero corrects the rounding, with no branch on the sign, which callers
+// meet at random.
+inline constexpr double kStep[4] = {0.0, -1.0, 1.0, 0.0};
+
+// The truncated value as a double; stores it as an integer in *n.
+inline double trunc_i32(double x, i32 *n) {
+    i32 r;
+    __asm__("fistl %0" : "=m"(r) : "t"(x));
+    const double d = r;
+    const unsigned down = !(x < 0) & (d > x);  // rounded up, above zero
+    const unsigned up = (x < 0) & (d < x);     // rounded down, below zero
+    r = r - static_cast<i32>(down) + static_cast<i32>(up);
+    if (r == INT32_MIN && x >= 0 && x < 2147483648.0) {  // rounded up out of range
+        *n = INT32_MAX;
+        return 2147483647.0;
+    }
+    *n = r;
+    return d + kStep[down | (up << 1)];
+}
+
+inline i32 to_i32(double x) {
+    i32 n;
+    trunc_i32(x, &n);
+    return n;
+}
+
+// The conversion of a value that is integral already, or out of range or
+// NaN (which give -2147483648): FIST alone, in any rounding mode.
+inline i32 integral_to_i32(double x) {
+    i32 r;
+    __asm__("fistl %0" : "=m"(r) : "t"(x));
+    return r;
+}
+
+// Truncation of a value the caller knows to lie within (-2^31, 2^31),
+// without leaving the registers: 1.5 * 2^52 added and taken away rounds to
+// an integer at 53-bit precision, and a step toward zero corrects the
+// rounding as in trunc_i32.
+inline double trunc_small(double u) {
+    constexpr double kRound = 6755399441055744.0;
+    const double r = (u + kRound) - kRound;
+    const unsigned down = !(u < 0) & (r > u);
+    const unsigned up = (u < 0) & (r < u);
+    return r + kStep[down | (up << 1)];
+}
+
+// The same for a value known to be positive.
+inline double trunc_small_pos(double u) {
+    constexpr double kRound = 6755399441055744.0;
+    constexpr double kDown[2] = {0.0, 1.0};
+    const double r = (u + kRound) - kRound;
+    return r - kDown[r > u];
+}
+
+// 1 and -1 by a flag, to set a sign by multiplication rather than a branch.
+inline constexpr double kSign[2] = {1.0, -1.0};
+inline constexpr double kHalf[2] = {-0.5, 0.5};
+
+// The value as a float, rounded through memory: the compiler may keep a
+// float in a wider register otherwise.
+inline float to_float(double x) {
+    float f = static_cast<float>(x);
+    __asm__("" : "+m"(f));
+    return f;
+}
+
+// A register value rounded to the 53 bits of a double: an addition of zero
+// obeys the precision control, which the transcendental instructions
+// ignore. (A trip through memory would do the same, at a greater cost.)
+inline double round53(double x) {
+    __asm__("fldz\n\tfaddp %%st, %%st(1)" : "+t"(x));
+    return x;
+}
+
+inline double fsqrt(double x) {
+    __asm__("fsqrt" : "+t"(x));
+    return x;
+}
+
+// FPATAN: the arctangent of y over x, here always with x = 1.
+inline double fpatan(double y, double x) {
+    double r;
+    __asm__("fpatan" : "=t"(r) : "0"(x), "u"(y) : "st(1)");
+    return r;
+}
+
+// Exact powers of two for scaling in registers: 2^(64i - 1040) and 2^j.
+// Writing integer words and reading them back as a double stalls the
+// processor's store forwarding; two multiplications by exact powers of two
+// give the same result whenever it is a normal number.
+extern const double pow2_coarse[33];
+extern const double pow2_fine[64];
+
+// x times 2^k, for k in [-1040, 1071]; the product of x by the fine factor
+// comes first, so that only the last product can leave the double range.
+inline double scale2(double x, int k) {
+    const unsigned i = static_cast<unsigned>(k + 1040);
+    return x * pow2_fine[i & 63] * pow2_coarse[i >> 6];
+}
+
+// Truncation to an integral value on the bits alone.
+double dint(double x);
+float aint(float x);
+
+}  // namespace orv::m
