@@ -6,6 +6,7 @@
 
 #include "include/quad.h"
 
+#include <bit>
 #include <cstdint>
 
 namespace orv::dd {
@@ -59,13 +60,20 @@ inline quad two_prod(double a, double b) {
 
 // An infinite or NaN leading part leaves no meaningful trailing part: such
 // results come out as (hi, +0), the form of the library's own infinities.
+// Read from the stored bits: an x87 register would still hold a value
+// beyond the double range as finite.
+inline bool finite(double x) {
+    return ((std::bit_cast<std::uint64_t>(x) >> 52) & 0x7FF) != 0x7FF;
+}
+
 inline quad finish(quad r) {
-    if (r.hi - r.hi != 0.0) r.lo = 0.0;
+    if (!finite(r.hi)) r.lo = 0.0;
     return r;
 }
 
 inline quad add(quad a, quad b) {
     quad s = two_sum(a.hi, b.hi);
+    if (!finite(s.hi)) return make(s.hi, 0.0);
     quad t = two_sum(a.lo, b.lo);
     s = quick_two_sum(s.hi, s.lo + t.hi);
     return finish(quick_two_sum(s.hi, s.lo + t.lo));
@@ -73,17 +81,20 @@ inline quad add(quad a, quad b) {
 
 inline quad add_d(quad a, double d) {
     quad s = two_sum(a.hi, d);
+    if (!finite(s.hi)) return make(s.hi, 0.0);
     return finish(quick_two_sum(s.hi, s.lo + a.lo));
 }
 
 inline quad mul(quad a, quad b) {
     quad p = two_prod(a.hi, b.hi);
+    if (!finite(p.hi)) return make(p.hi, 0.0);
     p.lo += a.hi * b.lo + a.lo * b.hi;
     return finish(quick_two_sum(p.hi, p.lo));
 }
 
 inline quad mul_d(quad a, double d) {
     quad p = two_prod(a.hi, d);
+    if (!finite(p.hi)) return make(p.hi, 0.0);
     p.lo += a.lo * d;
     return finish(quick_two_sum(p.hi, p.lo));
 }
@@ -93,13 +104,12 @@ inline quad mul_d(quad a, double d) {
 // the first two.
 inline quad div(quad a, quad b) {
     double q1 = a.hi / b.hi;
+    if (!finite(q1)) return make(q1, 0.0);
     quad r = add(a, neg(mul_d(b, q1)));
     double q2 = r.hi / b.hi;
     r = add(r, neg(mul_d(b, q2)));
     double q3 = r.hi / b.hi;
-    quad q = quick_two_sum(q1, q2);
-    if (q1 - q1 != 0.0) return finish(make(q1, 0.0));
-    return add_d(q, q3);
+    return add_d(quick_two_sum(q1, q2), q3);
 }
 
 // Powers by repeated squaring; a negative power is the reciprocal of the
