@@ -1,6 +1,8 @@
 /* The quad primitives against exact arithmetic on random normalised pairs:
    each result must lie within a bound of the exact value, relative, in
-   units of 2^-106, and come out normalised. */
+   units of 2^-106, and come out normalised. The bounds sit a little above
+   what the double-double algorithms reach (2^-105 to 2^-104.4), close
+   enough that dropping a correction term of any of them fails. */
 #include "harness.h"
 #include "exact.h"
 
@@ -43,27 +45,27 @@ static void sums(void) {
         x_zero(&ref); x_add_q(&ref, a, 0); x_add_q(&ref, b, 0);
         quad r = qadd(a, b);
         diff(&err, &ref, r);
-        if (!x_is_zero(&ref)) measure(0, "qadd", &err, &ref, 4, r);
+        if (!x_is_zero(&ref)) measure(0, "qadd", &err, &ref, 2, r);
 
         x_zero(&ref); x_add_q(&ref, a, 0); x_add_q(&ref, b, 1);
         r = qsub(a, b);
         diff(&err, &ref, r);
-        if (!x_is_zero(&ref)) measure(1, "qsub", &err, &ref, 4, r);
+        if (!x_is_zero(&ref)) measure(1, "qsub", &err, &ref, 2, r);
 
         x_zero(&ref); x_add_q(&ref, a, 0); x_add_d(&ref, d, 0);
         r = qaddd(a, d);
         diff(&err, &ref, r);
-        if (!x_is_zero(&ref)) measure(2, "qaddd", &err, &ref, 4, r);
+        if (!x_is_zero(&ref)) measure(2, "qaddd", &err, &ref, 2, r);
 
         x_zero(&ref); x_add_q(&ref, a, 0); x_add_d(&ref, d, 1);
         r = qsubd(a, d);
         diff(&err, &ref, r);
-        if (!x_is_zero(&ref)) measure(3, "qsubd", &err, &ref, 4, r);
+        if (!x_is_zero(&ref)) measure(3, "qsubd", &err, &ref, 2, r);
 
         x_zero(&ref); x_add_d(&ref, d, 0); x_add_q(&ref, a, 1);
         r = qrsubd(d, a);
         diff(&err, &ref, r);
-        if (!x_is_zero(&ref)) measure(4, "qrsubd", &err, &ref, 4, r);
+        if (!x_is_zero(&ref)) measure(4, "qrsubd", &err, &ref, 2, r);
     }
 }
 
@@ -77,17 +79,17 @@ static void products(void) {
         x_zero(&ref); x_add_qprod(&ref, a, b, 0);
         quad r = qmul(a, b);
         diff(&err, &ref, r);
-        measure(5, "qmul", &err, &ref, 8, r);
+        measure(5, "qmul", &err, &ref, 3, r);
 
         x_zero(&ref); x_add_qprod(&ref, a, Q(d, 0), 0);
         r = qmuld(a, d);
         diff(&err, &ref, r);
-        measure(6, "qmuld", &err, &ref, 4, r);
+        measure(6, "qmuld", &err, &ref, 2, r);
 
         x_zero(&ref); x_add_qprod(&ref, a, Q((double)n, 0), 0);
         r = qmuli(a, n);
         diff(&err, &ref, r);
-        if (n != 0) measure(7, "qmuli", &err, &ref, 4, r);
+        if (n != 0) measure(7, "qmuli", &err, &ref, 2, r);
     }
 }
 
@@ -102,16 +104,16 @@ static void quotients(void) {
         quad q = qdiv(a, b);
         x_zero(&ref); x_add_q(&ref, a, 0);
         x_zero(&err); x_add_qprod(&err, q, b, 0); x_add_q(&err, a, 1);
-        measure(8, "qdiv", &err, &ref, 8, q);
+        measure(8, "qdiv", &err, &ref, 2.5, q);
 
         q = qdivd(a, d);
         x_zero(&err); x_add_qprod(&err, q, Q(d, 0), 0); x_add_q(&err, a, 1);
-        measure(9, "qdivd", &err, &ref, 8, q);
+        measure(9, "qdivd", &err, &ref, 1, q);
 
         q = qrdivd(d, b);
         x_zero(&ref); x_add_d(&ref, d, 0);
         x_zero(&err); x_add_qprod(&err, q, b, 0); x_add_d(&err, d, 1);
-        measure(10, "qrdivd", &err, &ref, 8, q);
+        measure(10, "qrdivd", &err, &ref, 2.5, q);
     }
 }
 
