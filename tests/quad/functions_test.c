@@ -220,6 +220,8 @@ static void roots(void) {
     /* No square is formed, so the top of the range is no trouble. */
     r = hypotl(Q(3e300, 0), Q(4e300, 0));
     CHECK(x_fabs(r.hi - 5e300) <= 5e300 * x_pow2(-52));
+    CHECK_Q(hypotl(Q(1e-300, 0), Q(-1e300, 0)), 1e300, 0);
+    CHECK_Q(hypotl(Q(1e300, 0), Q(1e-300, 0)), 1e300, 0);
     worst = 0;
     for (int i = 0; i < 1000; ++i) {
         quad x = x_random_quad(-20, 20), y = x_random_quad(-20, 20);
