@@ -1,0 +1,9 @@
+#include "include/quad.h"
+#include "runtime/export.h"
+#include "tessar/dd.h"
+
+using namespace orv;
+
+extern "C" ORV_EXPORT quad qdivd(quad a, double d) {
+    return dd::div(a, dd::make(d, 0.0));
+}
