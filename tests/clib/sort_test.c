@@ -152,7 +152,27 @@ static void small_arrays(void) {
     CHECK_EQ(calls, 1 + 9 + 9 + 46);
     expect_final_pass(19);
     CHECK(ascending(v11, 11));
+
+    t_section("qsort: a tie defers the right side");
+    /* 0..9, 11..20, then the pivot 10: it lands at index 10 with ten
+       elements on either side, and the left ten are partitioned first. */
+    int v21[21];
+    for (int i = 0; i < 10; ++i) v21[i] = i;
+    for (int i = 10; i < 20; ++i) v21[i] = i + 1;
+    v21[20] = 10;
+    sort(v21, 21);
+    CHECK_EQ(trace[10].first, 10);   /* the scan up stops at 11 */
+    CHECK_EQ(trace[10].a, 11);
+    CHECK_EQ(trace[11].first, 19);   /* the scan down runs to 11 */
+    CHECK_EQ(trace[19].first, 11);
+    CHECK_EQ(trace[20].first, 0);    /* then 0..9 against element 9 */
+    CHECK_EQ(trace[20].second, 9);
+    CHECK_EQ(trace[29].first, 11);   /* then 11..20 against element 20 */
+    CHECK_EQ(trace[29].second, 20);
+    CHECK_EQ(trace[29].b, 11);
+    CHECK(ascending(v21, 21));
 }
+
 
 /* Records sorted by their first byte: a three-byte element. */
 static int strcmp_key(const void *x, const void *y) {
