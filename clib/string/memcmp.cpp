@@ -7,7 +7,7 @@
 extern "C" ORV_EXPORT int memcmp(const void *a, const void *b, size_t len) {
     auto *x = static_cast<const unsigned char *>(a);
     auto *y = static_cast<const unsigned char *>(b);
-    using word = orv::block::word_alias;
+    using word = orv::block::word;
     while (len >= 4 && *reinterpret_cast<const word *>(x) == *reinterpret_cast<const word *>(y)) {
         x += 4;
         y += 4;

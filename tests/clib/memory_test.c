@@ -57,6 +57,30 @@ static void moves(void) {
     memmove(big + 1, big + 998, 4000);
     CHECK(t_memeq(big, want, 5000));
 
+    /* Long blocks at many distances, both ways: near blocks, far blocks,
+       pieces that end partway, every alignment of the source. */
+    static const unsigned lengths[] = {256, 300, 1023, 1024, 1500, 3001, 5000};
+    static const unsigned gaps[] = {1, 2, 3, 4, 5, 255, 1024, 1027, 2000, 6000};
+    static unsigned char wide[12000], wide_model[12000], saved[5000];
+    wrong = 0;
+    for (unsigned li = 0; li < sizeof lengths / sizeof lengths[0] && !wrong; ++li)
+        for (unsigned gi = 0; gi < sizeof gaps / sizeof gaps[0] && !wrong; ++gi)
+            for (unsigned at = 0; at < 4 && !wrong; ++at)
+                for (int up = 0; up < 2 && !wrong; ++up) {
+                    unsigned len = lengths[li], low = 16 + at, high = low + gaps[gi];
+                    unsigned from = up ? low : high, to = up ? high : low;
+                    fill_pattern(wide, sizeof wide, li * 31 + gi);
+                    fill_pattern(wide_model, sizeof wide, li * 31 + gi);
+                    for (unsigned k = 0; k < len; ++k) saved[k] = wide_model[from + k];
+                    for (unsigned k = 0; k < len; ++k) wide_model[to + k] = saved[k];
+                    memmove(wide + to, wide + from, len);
+                    if (!t_memeq(wide, wide_model, sizeof wide)) {
+                        CHECK_EQ(len * 100000 + gaps[gi] * 10 + at, up - 2);
+                        wrong = 1;
+                    }
+                }
+    CHECK_EQ(wrong, 0);
+
     t_section("memcpy");
     wrong = 0;
     for (unsigned len = 0; len < 70 && !wrong; ++len)
