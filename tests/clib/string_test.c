@@ -126,6 +126,26 @@ static void searches(void) {
     CHECK(strchr(s, 'c' + 256) == s + 2);  /* converted to char */
     CHECK(strrchr("a\xE9z\xE9", 0xE9) != 0);
 
+    /* The character or the terminator at each place of a longer string,
+       from each alignment; a byte differing only by 0x80 is no match. */
+    char text[48];
+    int wrong = 0;
+    for (unsigned at = 0; at < 4; ++at)
+        for (unsigned len = 0; len < 30; ++len) {
+            for (unsigned k = 0; k < len; ++k) text[at + k] = (char)('a' + k % 7);
+            text[at + len] = 0;
+            if (strchr(text + at, 'z') != 0 || strchr(text + at, 0) != text + at + len) ++wrong;
+            for (unsigned k = 0; k < len; ++k) {
+                char keep = text[at + k];
+                text[at + k] = 'z';
+                if (strchr(text + at, 'z') != text + at + k) ++wrong;
+                text[at + k] = (char)('z' | 0x80);
+                if (strchr(text + at, 'z') != 0) ++wrong;
+                text[at + k] = keep;
+            }
+        }
+    CHECK_EQ(wrong, 0);
+
     t_section("spans");
     CHECK_EQ(strspn("aabbcx", "ab"), 4);
     CHECK_EQ(strspn("xab", "ab"), 0);
