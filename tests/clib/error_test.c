@@ -23,14 +23,10 @@ static void texts(void) {
     CHECK(strerror(200) == first);          /* one buffer, overwritten */
     CHECK(strerror(EBADF) != first);
     CHECK_STR(first, "error #0200");
-    char mine[12];
-    t_memset(mine, '#', sizeof mine);
-    CHECK_STR(__orv_strerror(EINVAL, mine), "invalid argument");
-    CHECK_EQ(mine[0], '#');                 /* constant texts leave it alone */
-    CHECK(__orv_strerror(42, mine) == mine);
+    char mine[12] = "#";
+    CHECK(__orv_strerror(EINVAL, mine)[0] == 'i' && mine[0] == '#'); /* buffer untouched */
+    CHECK(__orv_strerror(42, mine) == mine && __orv_strerror(77, 0) == first);
     CHECK_MEM(mine, 12, "error #0042", 12);
-    CHECK(__orv_strerror(77, 0) == first);
-    CHECK_STR(first, "error #0077");
 }
 
 static int perror_child(void *prefix) {
@@ -42,23 +38,14 @@ static int perror_child(void *prefix) {
     return strcmp(earlier, "error #1234"); /* perror has its own buffer */
 }
 
-static int gripe_child(void *arg) {
-    (void)arg;
-    _gripe_("a.c", 12, "p != 0");
-    return 77;
-}
+static int gripe_child(void *arg) { return _gripe_("a.c", 12, arg), 77; }
+static int pure_child(void *arg) { return __pure_error_(), arg != 0; }
 
 static int assert_child(void *arg) {
     int *p = arg;
     assert(p != 0);
     assert(*p == 2);
     return 78;
-}
-
-static int pure_child(void *arg) {
-    (void)arg;
-    __pure_error_();
-    return 79;
 }
 
 /* Runs fn in a child and checks its error output begins with `text` and
@@ -75,17 +62,15 @@ static void diagnostics(void) {
     static t_child c;
     t_section("perror");
     static const char *const prefixes[] = {"x", "", 0};
-    static const char *const outputs[] = {"x: bad file number\r\np: error #5678\r\n",
-                                          "bad file number\r\np: error #5678\r\n",
-                                          "bad file number\r\np: error #5678\r\n"};
     for (int k = 0; k < 3; ++k) {
         t_run_child(&c, perror_child, (void *)prefixes[k], 0, 0);
         CHECK_EQ(c.status, 0);
-        CHECK_MEM(c.err, c.err_len, outputs[k], t_strlen(outputs[k]));
+        const char *out = "x: bad file number\r\np: error #5678\r\n" + (k ? 3 : 0);
+        CHECK_MEM(c.err, c.err_len, out, t_strlen(out));
     }
 
     t_section("_gripe_, assert, __pure_error_");
-    stops_with(gripe_child, 0, "***Assertion failed in file a.c line 12:\r\n\tp != 0\r\n");
+    stops_with(gripe_child, "p != 0", "***Assertion failed in file a.c line 12:\r\n\tp != 0\r\n");
     int one = 1;
     stops_with(assert_child, &one, "***Assertion failed in file ");
     t_run_child(&c, assert_child, &one, 0, 0);

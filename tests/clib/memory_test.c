@@ -4,7 +4,6 @@
 #include <stdlib.h>
 #include <string.h>
 
-#include "guard_page.h"
 #include "harness.h"
 #include "lib_calls.h"
 
@@ -73,6 +72,15 @@ static void searches(void) {
         wrong += memcmp(area + 3, area + 43, 30) != -5 || memcmp(area + 3, area + 43, at) != 0;
     }
     CHECK_EQ(wrong, 0);
+}
+
+/* A page whose successor cannot be read, by raw system calls. */
+static unsigned char *guard_page(void) {
+    struct { unsigned long addr, len, prot, flags, fd, off; } args = {0, 8192, 3, 0x22, ~0ul, 0};
+    long p, r;
+    __asm__ volatile("int $0x80" : "=a"(p) : "a"(90 /* old mmap */), "b"(&args) : "memory");
+    __asm__ volatile("int $0x80" : "=a"(r) : "a"(125 /* mprotect */), "b"(p + 4096), "c"(4096), "d"(0));
+    return (unsigned long)p < 0xFFFFF000ul && r == 0 ? (unsigned char *)p : 0;
 }
 
 /* Strings and blocks that end at the page end: a read past it faults. */
