@@ -12,7 +12,7 @@ extern "C" ORV_EXPORT int strcmp(const char *a, const char *b) {
     if (orv::scan::aligned(y)) {
         auto *wx = reinterpret_cast<const orv::scan::word *>(x);
         auto *wy = reinterpret_cast<const orv::scan::word *>(y);
-        while (*wx == *wy && !orv::scan::has_zero(*wx)) {
+        while (*wx == *wy && !orv::scan::zero_bytes(*wx)) {
             ++wx;
             ++wy;
         }
