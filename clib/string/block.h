@@ -89,7 +89,7 @@ inline void pieces_down(byte *&d, const byte *&s, std::size_t &words) {
     }
 }
 
-inline void copy_up(byte *d, const byte *s, std::size_t n) {
+[[gnu::always_inline]] inline void copy_up(byte *d, const byte *s, std::size_t n) {
     if (is_short(n)) {
         for (; n != 0; --n) *d++ = *s++;
         return;
@@ -107,7 +107,7 @@ inline void copy_up(byte *d, const byte *s, std::size_t n) {
 
 // Copies from the last byte down; d and s point one past the ends, and d
 // lies above s.
-inline void copy_down(byte *d, const byte *s, std::size_t n) {
+[[gnu::always_inline]] inline void copy_down(byte *d, const byte *s, std::size_t n) {
     if (is_short(n)) {
         for (; n != 0; --n) *--d = *--s;
         return;
@@ -122,7 +122,7 @@ inline void copy_down(byte *d, const byte *s, std::size_t n) {
     for (n &= 3; n != 0; --n) *--d = *--s;
 }
 
-inline void fill(byte *d, byte value, std::size_t n) {
+[[gnu::always_inline]] inline void fill(byte *d, byte value, std::size_t n) {
     if (is_short(n)) {
         for (; n != 0; --n) *d++ = value;
         return;
