@@ -1,0 +1,1 @@
+orv_add_bench(string string.c ROUNDS 5)

@@ -1,0 +1,8 @@
+#include "include/string.h"
+#include "runtime/export.h"
+
+extern "C" ORV_EXPORT char *strcpy(char *dst, const char *src) {
+    char *d = dst;
+    while ((*d++ = *src++) != 0) {}
+    return dst;
+}

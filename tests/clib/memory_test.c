@@ -1,0 +1,115 @@
+/* The block functions against a byte-by-byte model: every small offset and
+   length, overlaps both ways, near and far long blocks; signed counts; and
+   blocks that end at an unreadable page. */
+#include <stdlib.h>
+#include <string.h>
+
+#include "harness.h"
+#include "lib_calls.h"
+
+static unsigned char area[12000], model[12000], saved[5000];
+
+static void pattern(unsigned seed) {
+    for (unsigned k = 0; k < sizeof area; ++k) area[k] = model[k] = (unsigned char)(seed + k * 7 + (k >> 3));
+}
+
+/* Moves len bytes both in the library and in the model; 0 when they agree. */
+static int move_differs(unsigned to, unsigned from, unsigned len, int use_memcpy) {
+    for (unsigned k = 0; k < len; ++k) saved[k] = model[from + k];
+    for (unsigned k = 0; k < len; ++k) model[to + k] = saved[k];
+    void *r = use_memcpy ? memcpy(area + to, area + from, len) : memmove(area + to, area + from, len);
+    return r != area + to || !t_memeq(area, model, sizeof area);
+}
+
+static void moves(void) {
+    t_section("memmove and memcpy");
+    int wrong = 0;
+    for (unsigned len = 0; len < 70; ++len)
+        for (unsigned from = 8; from < 16; ++from)
+            for (unsigned to = 1; to < 24; ++to) {
+                pattern(len + from);
+                wrong += move_differs(to, from, len, 0);
+                wrong += move_differs(100 + to, from, len, 1);
+            }
+    static const unsigned lengths[] = {256, 300, 1023, 1500, 5000};
+    static const unsigned gaps[] = {1, 3, 4, 255, 1024, 1027, 6000};
+    for (unsigned li = 0; li < 5; ++li)
+        for (unsigned gi = 0; gi < 7; ++gi)
+            for (unsigned at = 16; at < 20; ++at) {
+                pattern(li * 31 + gi);
+                wrong += move_differs(at + gaps[gi], at, lengths[li], 0);
+                wrong += move_differs(at, at + gaps[gi], lengths[li], 0);
+            }
+    CHECK_EQ(wrong, 0);
+
+    t_section("memset");
+    for (unsigned len = 0; len < 300; len += 1 + len / 16)
+        for (unsigned at = 1; at < 9; ++at) {
+            pattern(len);
+            t_memset(model + at, 0xA5, len);
+            wrong += memset(area + at, 0x3A5, len) != area + at || !t_memeq(area, model, 400);
+        }
+    CHECK_EQ(wrong, 0);
+}
+
+static void searches(void) {
+    t_section("memchr memcmp");
+    const char *text = "abc\0abcX\xE9";
+    CHECK(memchr(text, 0, 9) == text + 3);
+    CHECK(memchr(text, 'X', 7) == 0);
+    CHECK(memchr(text, 0x158, 9) == text + 7); /* compared as a byte */
+    CHECK(memchr(text, -23, 9) == text + 8);
+    CHECK(memchr(text, 'a', 0x80000000u) == 0); /* a signed count */
+    CHECK(memchr(text, 'a', 0x7FFFFFFFu) == text);
+    CHECK_EQ(memcmp("\xFF", "\x01", 1), 254);
+    CHECK_EQ(memcmp("a\0b", "a\0c", 3), -1);
+    CHECK_EQ(memcmp("x", "y", 0), 0);
+    int wrong = 0;
+    for (unsigned at = 0; at < 24; ++at) { /* the first difference decides */
+        for (unsigned k = 0; k < 40; ++k) area[40 + k] = area[k];
+        area[40 + 3 + at] = (unsigned char)(area[3 + at] + 5);
+        area[40 + 4 + at] = (unsigned char)(area[4 + at] - 9);
+        wrong += memcmp(area + 3, area + 43, 30) != -5 || memcmp(area + 3, area + 43, at) != 0;
+    }
+    CHECK_EQ(wrong, 0);
+}
+
+/* A page whose successor cannot be read, by raw system calls. */
+static unsigned char *guard_page(void) {
+    struct { unsigned long addr, len, prot, flags, fd, off; } args = {0, 8192, 3, 0x22, ~0ul, 0};
+    long p, r;
+    __asm__ volatile("int $0x80" : "=a"(p) : "a"(90 /* old mmap */), "b"(&args) : "memory");
+    __asm__ volatile("int $0x80" : "=a"(r) : "a"(125 /* mprotect */), "b"(p + 4096), "c"(4096), "d"(0));
+    return (unsigned long)p < 0xFFFFF000ul && r == 0 ? (unsigned char *)p : 0;
+}
+
+/* Strings and blocks that end at the page end: a read past it faults. */
+static void page_ends(void) {
+    t_section("page ends");
+    unsigned char *end = guard_page();
+    CHECK(end != 0);
+    if (!end) return;
+    end += 4096;
+    int wrong = 0;
+    for (unsigned len = 0; len < 12; ++len) {
+        char *s = (char *)end - len - 1, copy[16];
+        for (unsigned k = 0; k <= len; ++k) s[k] = copy[k] = k < len ? (char)('a' + k) : 0;
+        char *dup = strdup(s);
+        wrong += strlen(s) != len || strcmp(s, copy) || strcmp(copy, s) || strchr(s, 'z') ||
+                 strchr(s, 0) != s + len || strrchr(s, 'z') || strspn(s, "abcdefghijkl") != len ||
+                 memchr(s, 'z', len + 1) || memcmp(s, copy, len + 1) || strstr(s, "zz") ||
+                 strcmp(dup, copy);
+        free(dup);
+        memmove(end - len, s, len);
+        memset(end - len, 7, len);
+        memcpy(copy, end - len, len);
+    }
+    CHECK_EQ(wrong, 0);
+}
+
+int main(void) {
+    moves();
+    searches();
+    page_ends();
+    return t_finish();
+}
