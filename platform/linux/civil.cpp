@@ -45,3 +45,17 @@ Civil civil_from_days(std::int64_t z) {
 }
 
 } // namespace orv::k32
+
+#include <cstddef>
+
+// The platform's records, to the byte.
+static_assert(sizeof(FILETIME) == 8 && offsetof(FILETIME, dwHighDateTime) == 4);
+static_assert(sizeof(SYSTEMTIME) == 16 && offsetof(SYSTEMTIME, wDayOfWeek) == 4 &&
+              offsetof(SYSTEMTIME, wMilliseconds) == 14);
+static_assert(sizeof(TIME_ZONE_INFORMATION) == 172 &&
+              offsetof(TIME_ZONE_INFORMATION, StandardName) == 4 &&
+              offsetof(TIME_ZONE_INFORMATION, StandardDate) == 68 &&
+              offsetof(TIME_ZONE_INFORMATION, StandardBias) == 84 &&
+              offsetof(TIME_ZONE_INFORMATION, DaylightName) == 88 &&
+              offsetof(TIME_ZONE_INFORMATION, DaylightDate) == 152 &&
+              offsetof(TIME_ZONE_INFORMATION, DaylightBias) == 168);
