@@ -17,8 +17,9 @@ K32_API void k32_set_clock(const FILETIME *now);
 /* The zone rule in the form of TZ (copied, up to 127 characters) replaces
    the environment's; null goes back to TZ, /etc/localtime, UTC. */
 K32_API void k32_set_time_zone(const char *rule);
-/* The nth GetTimeZoneInformation from now (1: the next) fails. */
-K32_API void k32_fail_time_zone(unsigned nth);
+/* GetTimeZoneInformation calls `first` (1: the next) to first + count - 1
+   from now fail; a count of 0 cancels. */
+K32_API void k32_fail_time_zone(unsigned first, unsigned count);
 
 #ifdef __cplusplus
 }

@@ -24,7 +24,7 @@ constinit char override_text[text_max] = {};
 constinit bool default_known = false;
 constinit TzRule default_rule = {};
 constinit TzRule active = {};
-constinit unsigned fail_countdown = 0;
+constinit unsigned calls_before_failing = 0, failing_calls = 0;
 
 class File {
 public:
@@ -160,8 +160,12 @@ LONG zone_bias_now() {
 using namespace orv::k32;
 
 extern "C" K32_API DWORD WINAPI GetTimeZoneInformation(TIME_ZONE_INFORMATION *info) {
-    if (fail_countdown != 0 && --fail_countdown == 0)
+    if (calls_before_failing != 0) {
+        --calls_before_failing;
+    } else if (failing_calls != 0) {
+        --failing_calls;
         return fail(ERROR_INVALID_PARAMETER, TIME_ZONE_ID_INVALID);
+    }
     return zone_now(info);
 }
 
@@ -173,4 +177,7 @@ extern "C" K32_API void k32_set_time_zone(const char *rule) {
     override_text[n] = 0;
 }
 
-extern "C" K32_API void k32_fail_time_zone(unsigned nth) { fail_countdown = nth; }
+extern "C" K32_API void k32_fail_time_zone(unsigned first, unsigned count) {
+    calls_before_failing = first != 0 ? first - 1 : 0;
+    failing_calls = count;
+}
