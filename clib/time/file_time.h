@@ -6,8 +6,12 @@
 #include "platform/kernel32.h"
 #include "runtime/export.h"
 
+#ifdef __cplusplus
 extern "C" {
+#endif
 ORV_EXPORT int ConvertTime(const FILETIME *ft, time_t *t);
 ORV_EXPORT int ConvertTimeInverse(const time_t *t, FILETIME *ft);
 ORV_EXPORT int IsWinNT(void);
+#ifdef __cplusplus
 }
+#endif
