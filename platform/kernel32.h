@@ -247,6 +247,55 @@ K32_API DWORD WINAPI GetVersion(void);
 
 /* ---- end of the time block ------------------------------------------- */
 
+
+/* ---- File-system queries: status, times, searches, pipes --------------- */
+
+#define MAX_PATH 260
+#define INVALID_FILE_ATTRIBUTES ((DWORD)0xFFFFFFFF)
+#define FILE_ATTRIBUTE_READONLY 0x1
+#define FILE_ATTRIBUTE_DIRECTORY 0x10
+#define FILE_ATTRIBUTE_ARCHIVE 0x20
+#define ERROR_NO_MORE_FILES 18
+
+typedef struct _WIN32_FIND_DATAA {
+    DWORD dwFileAttributes;
+    FILETIME ftCreationTime;
+    FILETIME ftLastAccessTime;
+    FILETIME ftLastWriteTime;
+    DWORD nFileSizeHigh;
+    DWORD nFileSizeLow;
+    DWORD dwReserved0;
+    DWORD dwReserved1;
+    char cFileName[MAX_PATH];
+    char cAlternateFileName[14];
+} WIN32_FIND_DATAA;
+
+typedef struct _BY_HANDLE_FILE_INFORMATION {
+    DWORD dwFileAttributes;
+    FILETIME ftCreationTime;
+    FILETIME ftLastAccessTime;
+    FILETIME ftLastWriteTime;
+    DWORD dwVolumeSerialNumber;
+    DWORD nFileSizeHigh;
+    DWORD nFileSizeLow;
+    DWORD nNumberOfLinks;
+    DWORD nFileIndexHigh;
+    DWORD nFileIndexLow;
+} BY_HANDLE_FILE_INFORMATION;
+
+/* `*` and `?` match in the last component only; a root such as C:\ fails. */
+K32_API HANDLE WINAPI FindFirstFileA(LPCSTR pattern, WIN32_FIND_DATAA *data);
+K32_API BOOL WINAPI FindClose(HANDLE find);
+K32_API DWORD WINAPI GetFileAttributesA(LPCSTR name);
+K32_API BOOL WINAPI GetFileInformationByHandle(HANDLE file, BY_HANDLE_FILE_INFORMATION *info);
+K32_API BOOL WINAPI PeekNamedPipe(HANDLE pipe, LPVOID buffer, DWORD size, LPDWORD read,
+                                  LPDWORD available, LPDWORD left);
+/* A null time leaves that time as it is. */
+K32_API BOOL WINAPI SetFileTime(HANDLE file, const FILETIME *creation,
+                                const FILETIME *last_access, const FILETIME *last_write);
+
+/* ---- end of the file-system block -------------------------------------- */
+
 #ifdef __cplusplus
 }
 #endif
