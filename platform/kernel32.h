@@ -294,6 +294,10 @@ K32_API BOOL WINAPI PeekNamedPipe(HANDLE pipe, LPVOID buffer, DWORD size, LPDWOR
 K32_API BOOL WINAPI SetFileTime(HANDLE file, const FILETIME *creation,
                                 const FILETIME *last_access, const FILETIME *last_write);
 
+/* The temporary directory, ending in a separator: the length stored, the
+   size needed with the terminator when `size` is too small, 0 on failure. */
+K32_API DWORD WINAPI GetTempPathA(DWORD size, LPSTR buffer);
+
 /* ---- end of the file-system block -------------------------------------- */
 
 #ifdef __cplusplus

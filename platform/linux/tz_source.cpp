@@ -9,6 +9,7 @@
 // with (/proc/self/environ).
 #include "civil.h"
 #include "last_error.h"
+#include "start_environment.h"
 #include "syscall.h"
 #include "time_control.h"
 #include "time_zone.h"
@@ -40,36 +41,6 @@ public:
 private:
     long fd_;
 };
-
-// The value of TZ in the starting environment into `out`; false if unset.
-bool environment_tz(char (&out)[text_max]) {
-    File f("/proc/self/environ");
-    if (!f.ok()) return false;
-    static constexpr char key[] = "TZ=";
-    unsigned matched = 0;  // of the key at the start of the current entry
-    bool in_value = false, skipping = false;
-    unsigned n = 0;
-    char buf[512];
-    for (;;) {
-        long got = f.read(buf, sizeof buf);
-        if (got <= 0) return in_value ? (out[n] = 0, true) : false;
-        for (long i = 0; i < got; ++i) {
-            char c = buf[i];
-            if (in_value) {
-                if (c == 0) return out[n] = 0, true;
-                if (n < text_max - 1) out[n++] = c;
-            } else if (c == 0) {
-                matched = 0, skipping = false;
-            } else if (!skipping) {
-                if (c == key[matched]) {
-                    if (++matched == 3) in_value = true;
-                } else {
-                    skipping = true;
-                }
-            }
-        }
-    }
-}
 
 // The rule at the end of a zone file of version 2 or later: the text
 // between its last two line feeds.
@@ -130,7 +101,7 @@ const TzRule &current_rule() {
     }
     if (!default_known) {
         char tz[text_max];
-        if (environment_tz(tz)) {
+        if (startup_variable("TZ", tz, text_max)) {
             default_rule = rule_from_text(tz);
         } else if (!zone_file_rule("/etc/localtime", default_rule)) {
             default_rule = utc();
