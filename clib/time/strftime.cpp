@@ -8,7 +8,8 @@ using namespace orv::cal;
 
 constexpr unsigned copy_limit = 127;
 
-constinit char conversion_text[128] = {};
+constexpr unsigned conversion_size = 128;
+constinit char conversion_text[conversion_size] = {};
 constinit char date_text[32] = {};
 constinit char clock_text[32] = {};
 
@@ -24,7 +25,7 @@ int hour12(int hour) { return hour > 12 ? hour - 12 : hour == 0 ? 12 : hour; }
 // Writes the text of conversion `c` into `to`. A character that names no
 // conversion expands to nothing.
 void expand(char c, const struct tm &r, char *to) {
-    TextOut out(to);
+    TextOut out(to, conversion_size);
     switch (c) {
     case 'a': out.text(short_day_names[r.tm_wday]); break;
     case 'A': out.text(day_names[r.tm_wday]); break;
@@ -43,14 +44,14 @@ void expand(char c, const struct tm &r, char *to) {
     case 'w': out.fixed(r.tm_wday, 1); break;
     case 'W': out.fixed(week_number(r, 1), 2); break;
     case 'x': {
-        TextOut date(date_text);
+        TextOut date(date_text, sizeof date_text);
         date.text(short_day_names[r.tm_wday], 3).text(" ").text(short_month_names[r.tm_mon], 3);
         date.number(r.tm_mday, 3).text(", ").number(r.tm_year + 1900, 0).finish(date_text);
         out.text(date_text, copy_limit);
         break;
     }
     case 'X': {
-        TextOut clock(clock_text);
+        TextOut clock(clock_text, sizeof clock_text);
         clock.number(r.tm_hour, 0, 2).text(":").number(r.tm_min, 0, 2).text(":");
         clock.number(r.tm_sec, 0, 2).text(" ").finish(clock_text);
         out.text(clock_text, copy_limit);

@@ -3,7 +3,7 @@
 namespace orv::cal {
 
 TextOut &TextOut::text(const char *s, unsigned max) {
-    while (max-- && *s) *p_++ = *s++;
+    while (max-- && *s) put(*s++);
     return *this;
 }
 
@@ -17,18 +17,16 @@ TextOut &TextOut::number(int value, unsigned width, unsigned digits) {
     } while (magnitude);
     while (n < digits) buf[n++] = '0';
     if (value < 0) buf[n++] = '-';
-    for (unsigned pad = n; pad < width; ++pad) *p_++ = ' ';
-    while (n) *p_++ = buf[--n];
+    for (unsigned pad = n; pad < width; ++pad) put(' ');
+    while (n) put(buf[--n]);
     return *this;
 }
 
 TextOut &TextOut::fixed(int value, unsigned digits) {
     unsigned v = value < 0 ? 0 : static_cast<unsigned>(value);
-    for (unsigned i = digits; i-- > 0;) {
-        p_[i] = static_cast<char>('0' + v % 10);
-        v /= 10;
-    }
-    p_ += digits;
+    unsigned scale = 1;
+    for (unsigned i = 1; i < digits; ++i) scale *= 10;
+    for (; scale; scale /= 10) put(static_cast<char>('0' + v / scale % 10));
     return *this;
 }
 

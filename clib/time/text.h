@@ -7,7 +7,10 @@ namespace orv::cal {
 
 class TextOut {
 public:
-    explicit TextOut(char *to) : p_(to) {}
+    // Writes into `to`, which holds `capacity` bytes: characters beyond the
+    // room for a terminator are dropped, so fields out of their ranges
+    // cannot run past a fixed buffer.
+    TextOut(char *to, unsigned capacity) : p_(to), end_(to + capacity - 1) {}
     // At most `max` characters of `s`.
     TextOut &text(const char *s, unsigned max = ~0u);
     // At least `digits` digits, right-aligned with blanks in `width`.
@@ -19,7 +22,12 @@ public:
     unsigned finish(char *start);
 
 private:
+    void put(char c) {
+        if (p_ < end_) *p_++ = c;
+    }
+
     char *p_;
+    char *end_;
 };
 
 } // namespace orv::cal

@@ -185,5 +185,7 @@ int main(void) {
     r = fields(1999, 12, 5, 9, 8, 7);
     r.tm_wday = 0;
     CHECK_STR(asctime(&r), "Sun Dec  5 09:08:07 1999\n");
+    r.tm_mday = INT_MIN, r.tm_hour = INT_MAX, r.tm_min = -5, r.tm_year = INT_MAX - 1900;
+    CHECK_STR(asctime(&r), "Sun Dec-2147483648 2147483647:-"); /* cut to 31 characters */
     return t_finish();
 }
