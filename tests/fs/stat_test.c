@@ -13,6 +13,14 @@
 
 int _orv_file_exists(const char *path);
 
+/* The call answers -1 and leaves errno as `code` (0: untouched). */
+#define FAILS_WITH(call, code) \
+    do {                        \
+        errno = 0;              \
+        CHECK_EQ(call, -1);     \
+        CHECK_EQ(errno, code);  \
+    } while (0)
+
 static long raw2(long nr, long a, long b) {
     long r;
     __asm__ volatile("int $0x80" : "=a"(r) : "a"(nr), "b"(a), "c"(b) : "memory");
@@ -74,28 +82,14 @@ int main(void) {
     CHECK_HEX(mode_of("sub"), 0x41B6);
 
     t_section("what _stat cannot find");
-    errno = 0;
-    CHECK_EQ(_stat("C:\\", &st), -1);
-    CHECK_EQ(errno, ENOENT);
-    errno = 0;
-    CHECK_EQ(_stat("/", &st), -1);
-    CHECK_EQ(errno, ENOENT);
-    errno = 0;
-    CHECK_EQ(_stat("sub\\", &st), -1);
-    CHECK_EQ(errno, ENOENT);
-    errno = 0;
-    CHECK_EQ(_stat("", &st), -1);
-    CHECK_EQ(errno, ENOENT);
+    FAILS_WITH(_stat("C:\\", &st), ENOENT);
+    FAILS_WITH(_stat("/", &st), ENOENT);
+    FAILS_WITH(_stat("sub\\", &st), ENOENT);
+    FAILS_WITH(_stat("", &st), ENOENT);
     CHECK_EQ(st.st_dev, -1); /* cleared before the check */
-    errno = 0;
-    CHECK_EQ(_stat(NULL, &st), -1);
-    CHECK_EQ(errno, ENOENT);
-    errno = 0;
-    CHECK_EQ(_stat("missing.txt", &st), -1);
-    CHECK_EQ(errno, ENOENT);
-    errno = 0;
-    CHECK_EQ(_stat("plain", NULL), -1);
-    CHECK_EQ(errno, 0);
+    FAILS_WITH(_stat(NULL, &st), ENOENT);
+    FAILS_WITH(_stat("missing.txt", &st), ENOENT);
+    FAILS_WITH(_stat("plain", NULL), 0);
 
     t_section("wildcards");
     CHECK_EQ(t_write_file("b.c", "bbbbbbb", 7), 0);
@@ -106,9 +100,7 @@ int main(void) {
     CHECK_EQ(st.st_size, 7);
     CHECK_EQ(_stat("dir.exe\\f*", &st), 0);
     CHECK_EQ(st.st_size, 0);
-    errno = 0;
-    CHECK_EQ(_stat("*.zzz", &st), -1);
-    CHECK_EQ(errno, ENOENT);
+    FAILS_WITH(_stat("*.zzz", &st), ENOENT);
     CHECK_EQ(_orv_file_exists("a.c"), 1);
     CHECK_EQ(_orv_file_exists("sub"), 1);
     CHECK_EQ(_orv_file_exists("nothing"), 0);
@@ -145,24 +137,14 @@ int main(void) {
 
     t_section("_utime refusals");
     set_mode("b.c", 0444);
-    errno = 0;
-    CHECK_EQ(_utime("b.c", &times), -1);
-    CHECK_EQ(errno, EACCES);
+    FAILS_WITH(_utime("b.c", &times), EACCES);
     set_mode("b.c", 0644);
-    errno = 0;
-    CHECK_EQ(_utime("sub", &times), -1);
-    CHECK_EQ(errno, EACCES);
-    errno = 0;
-    CHECK_EQ(_utime("missing", &times), -1);
-    CHECK_EQ(errno, ENOENT);
-    errno = 0;
-    CHECK_EQ(_utime("", &times), -1);
-    CHECK_EQ(errno, ENOENT);
+    FAILS_WITH(_utime("sub", &times), EACCES);
+    FAILS_WITH(_utime("missing", &times), ENOENT);
+    FAILS_WITH(_utime("", &times), ENOENT);
     unsigned closes = k32_call_count(K32_CloseHandle);
     k32_fail_call(K32_CreateFileA, 1);
-    errno = 0;
-    CHECK_EQ(_utime("b.c", &times), -1);
-    CHECK_EQ(errno, EMFILE);
+    FAILS_WITH(_utime("b.c", &times), EMFILE);
     CHECK_EQ(k32_call_count(K32_CloseHandle), closes); /* nothing was opened to close */
 
     t_section("descriptors");
@@ -180,9 +162,7 @@ int main(void) {
     CHECK_EQ(_stat("b.c", &st), 0);
     CHECK_EQ(st.st_nlink, 1); /* a search reports no link count */
     CHECK_EQ(_close(fd), 0);
-    errno = 0;
-    CHECK_EQ(_fstat(fd, &st), -1); /* closed now */
-    CHECK_EQ(errno, 0);
+    FAILS_WITH(_fstat(fd, &st), 0); /* closed now */
     CHECK_EQ(_fstat(99, &st), -1);
     CHECK_EQ(errno, 0);
     fd = _open("/dev/null", O_RDWR);
