@@ -111,10 +111,14 @@ const TzRule &current_rule() {
     return default_rule;
 }
 
+// A zone without daylight saving needs no clock: the call is then free of
+// system calls, which matters as mktime asks for the zone several times.
 DWORD zone_now(TIME_ZONE_INFORMATION *info) {
+    const TzRule &rule = current_rule();
+    if (!rule.has_dst) return zone_info_at(rule, 0, info);
     std::int64_t now = static_cast<std::int64_t>(clock_now_ticks()) - epoch_1970_ticks;
     std::int64_t seconds = now / ticks_per_second - (now % ticks_per_second < 0);
-    return zone_info_at(current_rule(), seconds, info);
+    return zone_info_at(rule, seconds, info);
 }
 
 LONG zone_bias_now() {
