@@ -3,6 +3,7 @@
 #include "syscall.h"
 #include "time_control.h"
 #include "time_zone.h"
+#include "vdso_clock.h"
 
 namespace orv::k32 {
 
@@ -15,6 +16,9 @@ constexpr long nr_clock_gettime64 = 403;
 constexpr long clock_realtime = 0;
 
 std::uint64_t kernel_now() {
+    std::int64_t sec, nsec;
+    if (vdso_realtime(sec, nsec))
+        return static_cast<std::uint64_t>(epoch_1970_ticks + sec * ticks_per_second + nsec / 100);
     struct { std::int64_t sec, nsec; } ts64{};
     if (!sys::failed(sys::call2(nr_clock_gettime64, clock_realtime, sys::arg(&ts64))))
         return static_cast<std::uint64_t>(epoch_1970_ticks + ts64.sec * ticks_per_second +
