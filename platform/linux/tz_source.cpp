@@ -36,7 +36,13 @@ public:
     }
     bool ok() const { return !sys::failed(fd_); }
     long read(char *buf, unsigned n) { return sys::call3(sys::nr_read, fd_, sys::arg(buf), n); }
-    long seek_end(long back) { return sys::call3(sys::nr_lseek, fd_, -back, 2); }
+    // Positions at most `back` bytes before the end, at the start of a
+    // shorter file.
+    bool seek_tail(long back) {
+        long size = sys::call3(sys::nr_lseek, fd_, 0, 2);
+        if (sys::failed(size)) return false;
+        return !sys::failed(sys::call3(sys::nr_lseek, fd_, size > back ? size - back : 0, 0));
+    }
 
 private:
     long fd_;
@@ -52,7 +58,7 @@ bool zone_file_rule(const char *path, TzRule &rule) {
         head[3] != 'f' || head[4] < '2')
         return false;
     char tail[256];
-    if (sys::failed(f.seek_end(sizeof tail - 1))) return false;
+    if (!f.seek_tail(sizeof tail - 1)) return false;
     long got = f.read(tail, sizeof tail - 1);
     if (got < 2 || tail[got - 1] != '\n') return false;
     long begin = got - 2;

@@ -136,6 +136,9 @@ int main(void) {
             clock_at(2021, 1, 1, 0, 0, 0);
             CHECK_EQ(GetTimeZoneInformation(&info), TIME_ZONE_ID_STANDARD);
         }
+        k32_set_time_zone("Etc/GMT+5"); /* a file shorter than the tail that is read */
+        CHECK_EQ(GetTimeZoneInformation(&info), TIME_ZONE_ID_UNKNOWN);
+        CHECK_EQ(info.Bias, 300);
     } else {
         t_note("no zone files here: zone-file checks skipped");
     }
