@@ -42,3 +42,33 @@ long atol(const char *text);
 _ORV_END
 
 #endif
+
+/* ---- Random numbers and multibyte characters ------------------------- */
+
+#ifndef _ORV_STDLIB_RANDOM_MB
+#define _ORV_STDLIB_RANDOM_MB
+
+#if !defined(__cplusplus) && !defined(_ORV_WCHAR_T)
+#define _ORV_WCHAR_T
+typedef __WCHAR_TYPE__ wchar_t; /* unsigned 16 bits */
+#endif
+
+#define RAND_MAX 0x7FFFFFFE
+#define MB_CUR_MAX 1
+
+_ORV_BEGIN
+
+int rand(void);
+void srand(unsigned seed);
+char *initstate(unsigned seed, char *state, unsigned size);
+char *setstate(char *state);
+
+int mblen(const char *s, int n);
+int mbtowc(wchar_t *pwc, const char *s, unsigned n);
+int wctomb(char *s, wchar_t wc);
+size_t mbstowcs(wchar_t *dst, const char *src, unsigned len);
+size_t wcstombs(char *dst, const wchar_t *src, unsigned len);
+
+_ORV_END
+
+#endif

@@ -194,6 +194,112 @@ K32_API BOOL WINAPI DeleteFileA(LPCSTR name);
 /* Process */
 K32_API __attribute__((noreturn)) void WINAPI ExitProcess(UINT status);
 
+
+/* ---- Time: clocks, file times and the time zone ---------------------- */
+
+typedef unsigned short WCHAR;
+
+/* 100-nanosecond ticks since 1 January 1601 UTC, low word first. */
+typedef struct _FILETIME {
+    DWORD dwLowDateTime;
+    DWORD dwHighDateTime;
+} FILETIME;
+
+typedef struct _SYSTEMTIME {
+    WORD wYear;
+    WORD wMonth;        /* 1 to 12 */
+    WORD wDayOfWeek;    /* 0 for Sunday */
+    WORD wDay;
+    WORD wHour;
+    WORD wMinute;
+    WORD wSecond;
+    WORD wMilliseconds;
+} SYSTEMTIME;
+
+/* UTC = local time + Bias (+ StandardBias or DaylightBias), in minutes.
+   StandardDate and DaylightDate tell when each period begins: wYear 0
+   means "the wDay-th (5: last) wDayOfWeek of wMonth" in every year. */
+typedef struct _TIME_ZONE_INFORMATION {
+    LONG Bias;
+    WCHAR StandardName[32];
+    SYSTEMTIME StandardDate;
+    LONG StandardBias;
+    WCHAR DaylightName[32];
+    SYSTEMTIME DaylightDate;
+    LONG DaylightBias;
+} TIME_ZONE_INFORMATION;
+
+#define TIME_ZONE_ID_UNKNOWN 0
+#define TIME_ZONE_ID_STANDARD 1
+#define TIME_ZONE_ID_DAYLIGHT 2
+#define TIME_ZONE_ID_INVALID ((DWORD)0xFFFFFFFF)
+
+K32_API DWORD WINAPI GetTimeZoneInformation(TIME_ZONE_INFORMATION *info);
+K32_API void WINAPI GetSystemTime(SYSTEMTIME *st);
+K32_API void WINAPI GetLocalTime(SYSTEMTIME *st);
+K32_API void WINAPI GetSystemTimeAsFileTime(FILETIME *ft);
+K32_API BOOL WINAPI FileTimeToLocalFileTime(const FILETIME *ft, FILETIME *local);
+K32_API BOOL WINAPI LocalFileTimeToFileTime(const FILETIME *local, FILETIME *ft);
+K32_API BOOL WINAPI FileTimeToSystemTime(const FILETIME *ft, SYSTEMTIME *st);
+K32_API BOOL WINAPI SystemTimeToFileTime(const SYSTEMTIME *st, FILETIME *ft);
+/* Low byte major version, next byte minor, top bit set off the NT line. */
+K32_API DWORD WINAPI GetVersion(void);
+
+/* ---- end of the time block ------------------------------------------- */
+
+
+/* ---- File-system queries: status, times, searches, pipes --------------- */
+
+#define MAX_PATH 260
+#define INVALID_FILE_ATTRIBUTES ((DWORD)0xFFFFFFFF)
+#define FILE_ATTRIBUTE_READONLY 0x1
+#define FILE_ATTRIBUTE_DIRECTORY 0x10
+#define FILE_ATTRIBUTE_ARCHIVE 0x20
+#define ERROR_NO_MORE_FILES 18
+
+typedef struct _WIN32_FIND_DATAA {
+    DWORD dwFileAttributes;
+    FILETIME ftCreationTime;
+    FILETIME ftLastAccessTime;
+    FILETIME ftLastWriteTime;
+    DWORD nFileSizeHigh;
+    DWORD nFileSizeLow;
+    DWORD dwReserved0;
+    DWORD dwReserved1;
+    char cFileName[MAX_PATH];
+    char cAlternateFileName[14];
+} WIN32_FIND_DATAA;
+
+typedef struct _BY_HANDLE_FILE_INFORMATION {
+    DWORD dwFileAttributes;
+    FILETIME ftCreationTime;
+    FILETIME ftLastAccessTime;
+    FILETIME ftLastWriteTime;
+    DWORD dwVolumeSerialNumber;
+    DWORD nFileSizeHigh;
+    DWORD nFileSizeLow;
+    DWORD nNumberOfLinks;
+    DWORD nFileIndexHigh;
+    DWORD nFileIndexLow;
+} BY_HANDLE_FILE_INFORMATION;
+
+/* `*` and `?` match in the last component only; a root such as C:\ fails. */
+K32_API HANDLE WINAPI FindFirstFileA(LPCSTR pattern, WIN32_FIND_DATAA *data);
+K32_API BOOL WINAPI FindClose(HANDLE find);
+K32_API DWORD WINAPI GetFileAttributesA(LPCSTR name);
+K32_API BOOL WINAPI GetFileInformationByHandle(HANDLE file, BY_HANDLE_FILE_INFORMATION *info);
+K32_API BOOL WINAPI PeekNamedPipe(HANDLE pipe, LPVOID buffer, DWORD size, LPDWORD read,
+                                  LPDWORD available, LPDWORD left);
+/* A null time leaves that time as it is. */
+K32_API BOOL WINAPI SetFileTime(HANDLE file, const FILETIME *creation,
+                                const FILETIME *last_access, const FILETIME *last_write);
+
+/* The temporary directory, ending in a separator: the length stored, the
+   size needed with the terminator when `size` is too small, 0 on failure. */
+K32_API DWORD WINAPI GetTempPathA(DWORD size, LPSTR buffer);
+
+/* ---- end of the file-system block -------------------------------------- */
+
 #ifdef __cplusplus
 }
 #endif

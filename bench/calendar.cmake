@@ -1,0 +1,1 @@
+orv_add_bench(calendar calendar.c ROUNDS 5)

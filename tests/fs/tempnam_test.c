@@ -1,0 +1,73 @@
+/* Temporary names: counters, prefixes, directories with and without a
+   trailing backslash, names that already exist. */
+#include <stdlib.h>
+
+#include "clib/fs/temp_names.h"
+#include "harness.h"
+#include "platform/kernel32.h"
+
+static void make_dir(const char *path) {
+    long r;
+    __asm__ volatile("int $0x80" : "=a"(r) : "a"(39), "b"(path), "c"(0755) : "memory");
+}
+
+static int starts_with(const char *s, const char *prefix) {
+    while (*prefix)
+        if (*s++ != *prefix++) return 0;
+    return 1;
+}
+
+int main(void) {
+    t_section("tmpnam");
+    t_remove("tnm00001");
+    t_remove("tnm00002");
+    CHECK_EQ(t_write_file("tnm00003", "", 0), 0);
+    char *first = tmpnam(NULL);
+    CHECK_STR(first, "tnm00001");
+    char mine[9];
+    CHECK(tmpnam(mine) == mine);
+    CHECK_STR(mine, "tnm00002");
+    CHECK(tmpnam(NULL) == first); /* one static buffer */
+    CHECK_STR(first, "tnm00004"); /* tnm00003 exists */
+
+    t_section("tempnam in a given directory");
+    make_dir("C:");
+    make_dir("C:/TMP");
+    t_remove("C:/TMP/abcde00001");
+    t_remove("C:/TMP/tpn00002");
+    CHECK_EQ(t_write_file("C:/TMP/tpn00003", "", 0), 0);
+    char *p = tempnam("C:\\TMP", "abcdefgh");
+    CHECK_STR(p, "C:\\TMP\\abcde00001");
+    free(p);
+    p = tempnam("C:\\TMP\\", NULL);
+    CHECK_STR(p, "C:\\TMP\\tpn00002"); /* the same counter went on */
+    free(p);
+    p = tempnam("C:\\TMP", NULL);
+    CHECK_STR(p, "C:\\TMP\\tpn00004");
+    free(p);
+    p = tempnam("C:\\TMP", "");
+    CHECK_STR(p, "C:\\TMP\\00005");
+    free(p);
+
+    t_section("the temporary directory");
+    char *dir = _orv_get_tmpdir();
+    CHECK(dir != NULL);
+    CHECK(_orv_get_tmpdir() == dir);
+    unsigned len = t_strlen(dir);
+    CHECK(len > 1);
+    CHECK(dir[len - 1] == '\\' || dir[len - 1] == '/');
+    char buf[1100];
+    CHECK_EQ(GetTempPathA(0, NULL), len + 1);
+    CHECK_EQ(GetTempPathA(len, buf), len + 1);
+    CHECK_EQ(GetTempPathA(len + 1, buf), len);
+    CHECK_STR(buf, dir);
+    p = tempnam(NULL, "dflt");
+    CHECK(starts_with(p, dir));
+    CHECK_STR(p + len, "dflt00006");
+    free(p);
+    p = tempnam("", "e"); /* an empty directory counts as none */
+    CHECK(starts_with(p, dir));
+    CHECK_STR(p + len, "e00007");
+    free(p);
+    return t_finish();
+}

@@ -1,0 +1,198 @@
+/* The time sources on a frozen clock, and the file-time conversions of the
+   stand-in and of the library. */
+#include <time.h>
+
+#include "clib/time/file_time.h"
+#include "harness.h"
+#include "platform/kernel32.h"
+#include "platform/linux/time_control.h"
+
+#define EPOCH 116444736000000000ULL
+
+static FILETIME ft_of(unsigned long long v) {
+    FILETIME ft;
+    ft.dwLowDateTime = (DWORD)v;
+    ft.dwHighDateTime = (DWORD)(v >> 32);
+    return ft;
+}
+
+static unsigned long long value(FILETIME ft) {
+    return ((unsigned long long)ft.dwHighDateTime << 32) | ft.dwLowDateTime;
+}
+
+static void freeze(unsigned long long v) {
+    FILETIME ft = ft_of(v);
+    k32_set_clock(&ft);
+}
+
+static SYSTEMTIME date(int y, int mon, int d, int h, int mi, int s, int ms) {
+    SYSTEMTIME st = {0};
+    st.wYear = (WORD)y, st.wMonth = (WORD)mon, st.wDay = (WORD)d;
+    st.wHour = (WORD)h, st.wMinute = (WORD)mi, st.wSecond = (WORD)s;
+    st.wMilliseconds = (WORD)ms;
+    return st;
+}
+
+static int convert(unsigned long long v, time_t *t) {
+    FILETIME ft = ft_of(v);
+    return ConvertTime(&ft, t);
+}
+
+/* ConvertTime(ConvertTimeInverse(t)) == t across mktime's range. */
+static int file_round_trips(void) {
+    int bad = 0;
+    for (long long t = -2114380800LL + 86400; t < 2145916799LL - 86400; t += 86400LL * 89 + 7777) {
+        time_t s = (time_t)t, back = 12345;
+        FILETIME ft;
+        if (!ConvertTimeInverse(&s, &ft) || value(ft) != EPOCH + (unsigned long long)(t * 10000000))
+            ++bad;
+        else if (!ConvertTime(&ft, &back) || back != s)
+            ++bad;
+    }
+    return bad;
+}
+
+int main(void) {
+    k32_set_time_zone("UTC0");
+
+    t_section("seconds from the file time");
+    time_t t = 99;
+    freeze(EPOCH);
+    CHECK_EQ(time(NULL), 0);
+    freeze(EPOCH + 25000000);
+    CHECK_EQ(time(NULL), 2); /* 2.5 s truncated */
+    CHECK_EQ(time(&t), 2);
+    CHECK_EQ(t, 2);
+    freeze(EPOCH - 25000000);
+    CHECK_EQ(_orv_time(&t), -2); /* toward zero, not -3 */
+    CHECK_EQ(t, -2);
+    freeze(EPOCH + 2147483647ULL * 10000000 + 9999999);
+    CHECK_EQ(time(NULL), 2147483647);
+    freeze(EPOCH + 2147483648ULL * 10000000);
+    CHECK_EQ(time(NULL), -2147483647 - 1); /* past 2038 the count wraps */
+    freeze(0);
+    CHECK_EQ(time(NULL), (time_t)(unsigned long)(-11644473600LL));
+
+    t_section("clock");
+    freeze(EPOCH + 12345678ULL * 10000); /* 12345.678 s after 1970 */
+    CHECK_EQ(clock(), 12345678); /* no start stamp: counts from 1970 */
+    freeze(EPOCH + 1600000000ULL * 10000000 + 5000000);
+    CHECK_EQ((unsigned long)_orv_clock(), (unsigned long)(1600000000ULL * 1000 + 500));
+    freeze(EPOCH + 1000000000ULL * 10000000 + 9000000); /* x.900 */
+    __init_start_time();
+    CHECK_EQ(clock(), 0);
+    freeze(EPOCH + 1000000001ULL * 10000000 + 1000000); /* (x+1).100: milliseconds go down */
+    CHECK_EQ(clock(), 200);
+    freeze(EPOCH + 1000000002ULL * 10000000 + 4000000);
+    CHECK_EQ(clock(), 1500);
+    CHECK_EQ(CLOCKS_PER_SEC, 1000);
+    k32_set_clock(NULL);
+    struct { long sec, nsec; } kernel;
+    long nr = 265, clock_realtime = 0; /* clock_gettime straight from the kernel */
+    __asm__ volatile("int $0x80" : "+a"(nr) : "b"(clock_realtime), "c"(&kernel) : "memory");
+    time_t now = time(NULL);
+    CHECK(now - kernel.sec >= 0 && now - kernel.sec <= 2); /* the real clock again, one reading */
+
+    t_section("stand-in calendar fields");
+    SYSTEMTIME st;
+    FILETIME ft = ft_of(0), back;
+    CHECK(FileTimeToSystemTime(&ft, &st));
+    CHECK_EQ(st.wYear, 1601);
+    CHECK_EQ(st.wMonth, 1);
+    CHECK_EQ(st.wDay, 1);
+    CHECK_EQ(st.wDayOfWeek, 1);
+    ft = ft_of(EPOCH + 9999999);
+    CHECK(FileTimeToSystemTime(&ft, &st));
+    CHECK_EQ(st.wYear, 1970);
+    CHECK_EQ(st.wDayOfWeek, 4);
+    CHECK_EQ(st.wSecond, 0);
+    CHECK_EQ(st.wMilliseconds, 999);
+    ft = ft_of(0x8000000000000000ULL);
+    SetLastError(0);
+    CHECK(!FileTimeToSystemTime(&ft, &st));
+    CHECK_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
+    ft = ft_of(0x7FFFFFFFFFFFFFFFULL);
+    CHECK(FileTimeToSystemTime(&ft, &st));
+    CHECK_EQ(st.wYear, 30828);
+    st = date(2000, 2, 29, 23, 59, 59, 999);
+    CHECK(SystemTimeToFileTime(&st, &ft));
+    CHECK_HEX(value(ft), EPOCH + 951868799ULL * 10000000 + 9990000);
+    st.wDayOfWeek = 77; /* ignored */
+    CHECK(SystemTimeToFileTime(&st, &back));
+    CHECK_HEX(value(back), value(ft));
+    static const SYSTEMTIME bad[] = {
+        {1900, 2, 0, 29, 0, 0, 0, 0}, {1600, 12, 0, 31, 0, 0, 0, 0}, {2000, 13, 0, 1, 0, 0, 0, 0},
+        {2000, 0, 0, 1, 0, 0, 0, 0},  {2000, 4, 0, 31, 0, 0, 0, 0},  {2000, 1, 0, 0, 0, 0, 0, 0},
+        {2000, 1, 0, 1, 24, 0, 0, 0}, {2000, 1, 0, 1, 0, 60, 0, 0},  {2000, 1, 0, 1, 0, 0, 60, 0},
+        {2000, 1, 0, 1, 0, 0, 0, 1000}};
+    for (unsigned i = 0; i < sizeof bad / sizeof bad[0]; ++i) CHECK(!SystemTimeToFileTime(&bad[i], &ft));
+    int bad_trips = 0; /* fields and back, over four centuries of odd steps */
+    for (unsigned long long v = 0; v < 0x0300000000000000ULL; v += 0x0000123456789ABCULL) {
+        ft = ft_of(v);
+        if (!FileTimeToSystemTime(&ft, &st) || !SystemTimeToFileTime(&st, &back) ||
+            value(back) != v - v % 10000)
+            ++bad_trips;
+    }
+    CHECK_EQ(bad_trips, 0);
+    freeze(EPOCH + 951868799ULL * 10000000 + 1234567);
+    GetSystemTime(&st);
+    CHECK_EQ(st.wYear, 2000);
+    CHECK_EQ(st.wMonth, 2);
+    CHECK_EQ(st.wDay, 29);
+    CHECK_EQ(st.wHour, 23);
+    CHECK_EQ(st.wMilliseconds, 123);
+    GetSystemTimeAsFileTime(&ft);
+    CHECK_HEX(value(ft), EPOCH + 951868799ULL * 10000000 + 1234567);
+
+    t_section("local file times follow the offset in force now");
+    k32_set_time_zone("XST5XDT,J1/0,J365/25");
+    ft = ft_of(EPOCH);
+    CHECK(FileTimeToLocalFileTime(&ft, &back));
+    CHECK_HEX(value(back), EPOCH - 4ULL * 3600 * 10000000);
+    CHECK(LocalFileTimeToFileTime(&back, &ft));
+    CHECK_HEX(value(ft), EPOCH);
+    GetLocalTime(&st);
+    CHECK_EQ(st.wDay, 29);
+    CHECK_EQ(st.wHour, 19);
+    k32_set_time_zone("EST5EDT");
+    freeze(EPOCH + 1610000000ULL * 10000000); /* January 2021: standard time */
+    ft = ft_of(EPOCH);
+    CHECK(FileTimeToLocalFileTime(&ft, &back));
+    CHECK_HEX(value(back), EPOCH - 5ULL * 3600 * 10000000);
+
+    t_section("ConvertTime and ConvertTimeInverse");
+    k32_set_time_zone("UTC0");
+    t = 77;
+    CHECK_EQ(convert(EPOCH, &t), 1);
+    CHECK_EQ(t, 0);
+    CHECK_EQ(convert(EPOCH + 25000000, &t), 1);
+    CHECK_EQ(t, 2);
+    st = date(1900, 1, 1, 0, 0, 0, 0);
+    CHECK(SystemTimeToFileTime(&st, &ft));
+    t = 77;
+    CHECK_EQ(ConvertTime(&ft, &t), 1); /* out of mktime's range: -1 is a success */
+    CHECK_EQ(t, -1);
+    t = 77;
+    CHECK_EQ(convert(0xFFFFFFFFFFFFFFFFULL, &t), 0); /* no calendar fields for it */
+    CHECK_EQ(t, 77);
+    CHECK_EQ(file_round_trips(), 0);
+    static const char *const zones[] = {"EST5", "XST5XDT,J1/0,J365/25", "<+0530>-5:30",
+                                        "CET-1CEST,M3.5.0,M10.5.0/3"};
+    for (unsigned i = 0; i < sizeof zones / sizeof zones[0]; ++i) {
+        k32_set_time_zone(zones[i]);
+        freeze(EPOCH + 1625140800ULL * 10000000); /* July 2021 */
+        t = 0;
+        CHECK(ConvertTimeInverse(&t, &ft));
+        CHECK_HEX(value(ft), EPOCH); /* whatever the bias */
+        CHECK_EQ(convert(EPOCH, &t), 1);
+        CHECK_EQ(t, 0);
+        CHECK_EQ(file_round_trips(), 0);
+        freeze(EPOCH + 1610000000ULL * 10000000); /* January 2021 */
+        CHECK_EQ(file_round_trips(), 0);
+    }
+
+    t_section("platform line");
+    CHECK_EQ(IsWinNT(), 1);
+    CHECK_EQ(GetVersion() >> 31, 0);
+    return t_finish();
+}
