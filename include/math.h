@@ -131,4 +131,6 @@ float __asinfacosf(float x, int flag);   /* 0: arcsine, 1: arccosine */
 
 _ORV_END
 
+#include "_orv_mathl.h"
+
 #endif
