@@ -3,8 +3,7 @@
 # what the build needs.
 
 BUILD ?= build
-PACKAGES := gcc-multilib g++-multilib cmake ninja-build
-BENCH_PACKAGES := libmpfr-dev
+PACKAGES := gcc-multilib g++-multilib cmake ninja-build libmpfr-dev
 
 .PHONY: all deps configure demo check bench clean
 
@@ -31,10 +30,6 @@ check: all
 	ctest --test-dir $(BUILD) --output-on-failure -j2
 
 bench: configure
-	@missing=""; for p in $(BENCH_PACKAGES); do \
-	  dpkg -s $$p >/dev/null 2>&1 || missing="$$missing $$p"; done; \
-	if [ -n "$$missing" ] && [ "$$(id -u)" = 0 ]; then \
-	  apt-get update && DEBIAN_FRONTEND=noninteractive apt-get install -y $$missing; fi
 	cmake --build $(BUILD)
 	cmake --build $(BUILD) --target bench
 

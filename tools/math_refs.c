@@ -4,7 +4,7 @@
  * results correctly rounded to double or float.
  *
  *   cc tools/math_refs.c -lmpfr -lgmp -o math_refs
- *   ./math_refs header 24 > tests/math/ref_values.h   (the test's sample)
+ *   ./math_refs header 24 FILE   (the sample the tests build from)
  *   ./math_refs binary 20000 refs.bin                 (the accuracy tool's)
  *
  * The binary file is a sequence of cases, each a header of four 32-bit

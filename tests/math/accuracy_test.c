@@ -1,9 +1,9 @@
 /* Values of the transcendental functions on ordinary arguments against
-   correctly rounded references (ref_values.h, made with MPFR by
+   correctly rounded references (math_ref_values.h, made with MPFR at build time by
    tools/math_refs.c). Each function must stay within the error its method
    has: a bound in units in the last place of the result, per family. */
 #include "mathcheck.h"
-#include "ref_values.h"
+#include "math_ref_values.h"
 
 enum { F_EXP, F_LOG, F_LOG10, F_SQRT, F_SIN, F_COS, F_TAN, F_ASIN, F_ACOS, F_ATAN,
        F_SINH, F_COSH, F_TANH, F_ATAN2, F_POW, F_COUNT };
