@@ -4,6 +4,7 @@
 #include <setjmp.h>
 
 #include "harness.h"
+#include "platform/kernel32.h"
 
 /* jump_round_trip(env, val, out): with EBX, ESI, EDI and EBP set to known
    values, calls setjmp(env); on the direct return, env is copied to out[6..11]
@@ -119,8 +120,49 @@ static void from_c(void) {
     CHECK_EQ(depth, 1);
 }
 
+/* An illegal instruction taken as a jump, as the SSE probe's handler does
+   it: the fault's context is edited to resume at the return of setjmp. */
+static jmp_buf fault_jump;
+static unsigned offered;
+
+static EXCEPTION_DISPOSITION pass_on(EXCEPTION_RECORD *r, void *f, CONTEXT *c, void *d) {
+    (void)r; (void)f; (void)c; (void)d;
+    ++offered;
+    return ExceptionContinueSearch;
+}
+
+static EXCEPTION_DISPOSITION take_as_jump(EXCEPTION_RECORD *r, void *f, CONTEXT *c, void *d) {
+    (void)f; (void)d;
+    ++offered;
+    if (r->ExceptionCode != EXCEPTION_ILLEGAL_INSTRUCTION) return ExceptionContinueSearch;
+    c->Eax = 1;
+    c->Ebx = fault_jump[0];
+    c->Edi = fault_jump[1];
+    c->Esi = fault_jump[2];
+    c->Ebp = fault_jump[3];
+    c->Esp = fault_jump[4] + 4;
+    c->Eip = fault_jump[5];
+    return ExceptionContinueExecution;
+}
+
+static void fault_as_jump(void) {
+    t_section("illegal instruction through the exception chain");
+    NT_TIB *tib = NtCurrentTeb();
+    EXCEPTION_REGISTRATION_RECORD outer_rec = {tib->ExceptionList, take_as_jump};
+    EXCEPTION_REGISTRATION_RECORD inner_rec = {&outer_rec, pass_on};
+    tib->ExceptionList = &inner_rec;
+    volatile int tries = 0;
+    int r = setjmp(fault_jump);
+    if (++tries == 1) __asm__ volatile("ud2");
+    tib->ExceptionList = outer_rec.Next;
+    CHECK_EQ(r, 1);
+    CHECK_EQ(tries, 2);
+    CHECK_EQ(offered, 2);
+}
+
 int main(void) {
     registers();
     from_c();
+    fault_as_jump();
     return t_finish();
 }

@@ -1,6 +1,7 @@
 /* What a program finds when it starts: the floating-point state set by the
    entry point, and the host hook table with its defaults; and what later
    entry-point calls for threads do. */
+#include <fdmap.h>
 #include <tvlkc.h>
 
 #include "harness.h"
@@ -71,9 +72,22 @@ static void hooks(void) {
     tvlk_c_init(saved.hook_read, saved.hook_write, saved.hook_exit, saved.hook_spare);
 }
 
+/* The program's own static constructors run once, after the start code
+   has registered the standard descriptors. */
+static int constructed, saw_descriptors;
+__attribute__((constructor)) static void program_constructor(void) {
+    ++constructed;
+    saw_descriptors = __find_fd_map(0) && __find_fd_map(1) && __find_fd_map(2);
+}
+
 int main(void) {
     /* Before anything else can touch it. */
     unsigned cw = x87_control(), csr = mxcsr();
+    t_section("start code");
+    CHECK_EQ(constructed, 1);
+    CHECK(saw_descriptors);
+    CHECK(__find_fd_map(3) == 0);
+    CHECK_EQ(__find_fd_map(1)->flags, FD_TEXT);
     t_section("state seen by main");
     CHECK_HEX(cw, 0x27F);
     CHECK_HEX(csr, 0x9FC0);
