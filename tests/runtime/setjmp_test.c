@@ -85,41 +85,6 @@ static void registers(void) {
     CHECK_EQ(sizeof(jmp_buf), 24);
 }
 
-/* From C: the direct return is 0, a jump from a deeper call returns its
-   value, and locals kept in memory survive. */
-static jmp_buf outer;
-static int depth;
-
-static void dive(int n, int val);
-static void (*volatile next_dive)(int, int) = dive;
-
-static void dive(int n, int val) {
-    if (n > 0) {
-        depth = n;
-        next_dive(n - 1, val);
-    }
-    longjmp(outer, val);
-}
-
-static void from_c(void) {
-    t_section("from C");
-    volatile int passes = 0;
-    int r = setjmp(outer);
-    ++passes;
-    if (passes == 1) {
-        CHECK_EQ(r, 0);
-        dive(20, 0);
-    } else if (passes == 2) {
-        CHECK_EQ(r, 1);
-        dive(3, 42);
-    } else {
-        CHECK_EQ(r, 42);
-    }
-    CHECK(passes <= 3);
-    if (passes < 3) CHECK(0 && "fell through");
-    CHECK_EQ(depth, 1);
-}
-
 /* An illegal instruction taken as a jump, as the SSE probe's handler does
    it: the fault's context is edited to resume at the return of setjmp. */
 static jmp_buf fault_jump;
@@ -162,7 +127,6 @@ static void fault_as_jump(void) {
 
 int main(void) {
     registers();
-    from_c();
     fault_as_jump();
     return t_finish();
 }
