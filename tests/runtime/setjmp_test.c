@@ -31,8 +31,10 @@ __asm__(
     "  call setjmp\n"
     "1:\n"
     "  testl %eax, %eax\n  jnz 2f\n"
-    /* direct return: copy env, then jump from deeper down */
+    /* direct return: copy env, then jump from deeper down; a second
+       return of 0 must not jump again */
     "  movl 32(%esp), %ecx\n  movl 40(%esp), %edx\n"
+    "  incl 52(%edx)\n  cmpl $1, 52(%edx)\n  jne 2f\n"
     "  movl 0(%ecx), %eax\n  movl %eax, 24(%edx)\n"
     "  movl 4(%ecx), %eax\n  movl %eax, 28(%edx)\n"
     "  movl 8(%ecx), %eax\n  movl %eax, 32(%edx)\n"
@@ -65,7 +67,7 @@ static void registers(void) {
     for (unsigned i = 0; i < 4; ++i) {
         t_section(i == 0 ? "longjmp 0" : i == 1 ? "longjmp 1" : i == 2 ? "longjmp 7" : "longjmp -5");
         jmp_buf env;
-        unsigned out[13];
+        unsigned out[14];
         t_memset(out, 0, sizeof out);
         CHECK_EQ(jump_round_trip(env, vals[i], out), want[i]);
         CHECK_HEX(out[0], 0x11111111); /* ebx */
