@@ -1,8 +1,11 @@
 // The start code of a program. The library has been through its entry
 // point by now (the loader ran it); what the program owes it is the three
 // standard descriptors. Then the program's own static constructors, then
-// main.
+// main, whose result ends the process through exit, so that buffered
+// output is written and the exit handlers run.
 #include "include/fdmap.h"
+#include "include/stdlib.h"
+#include "include/time.h"
 #include "platform/kernel32.h"
 
 extern "C" int main(int argc, char **argv);
@@ -33,6 +36,7 @@ void run_constructors(int argc, char **argv, char **envp) {
 
 extern "C" [[noreturn]] void orv_crt_main(int argc, char **argv) {
     register_std_descriptors();
+    __init_start_time(); // clock counts from here
     run_constructors(argc, argv, argv + argc + 1);
-    ExitProcess(static_cast<UINT>(main(argc, argv)));
+    exit(main(argc, argv));
 }

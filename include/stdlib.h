@@ -72,3 +72,15 @@ size_t wcstombs(char *dst, const wchar_t *src, unsigned len);
 _ORV_END
 
 #endif
+/* ---- Process end, environment and shell ------------------------------- */
+#ifndef _ORV_STDLIB_PROCESS
+#define _ORV_STDLIB_PROCESS
+_ORV_BEGIN
+int atexit(void (*handler)(void));
+void exit(int status) __attribute__((__noreturn__));
+void _exit(int status) __attribute__((__noreturn__));
+void abort(void);
+char *getenv(const char *name);
+int system(const char *command);
+_ORV_END
+#endif

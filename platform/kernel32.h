@@ -300,6 +300,47 @@ K32_API DWORD WINAPI GetTempPathA(DWORD size, LPSTR buffer);
 
 /* ---- end of the file-system block -------------------------------------- */
 
+/* ---- Environment and processes ----------------------------------------- */
+
+#define NORMAL_PRIORITY_CLASS 0x20
+#define INFINITE ((DWORD)0xFFFFFFFF)
+#define WAIT_OBJECT_0 0
+#define WAIT_FAILED ((DWORD)0xFFFFFFFF)
+#define STILL_ACTIVE 259
+#define ERROR_ENVVAR_NOT_FOUND 203
+#define ERROR_FILE_NOT_FOUND 2
+
+typedef struct _STARTUPINFOA {
+    DWORD cb;
+    LPSTR lpReserved, lpDesktop, lpTitle;
+    DWORD dwX, dwY, dwXSize, dwYSize, dwXCountChars, dwYCountChars, dwFillAttribute, dwFlags;
+    unsigned short wShowWindow, cbReserved2;
+    unsigned char *lpReserved2;
+    HANDLE hStdInput, hStdOutput, hStdError;
+} STARTUPINFOA;
+
+typedef struct _PROCESS_INFORMATION {
+    HANDLE hProcess;
+    HANDLE hThread;
+    DWORD dwProcessId;
+    DWORD dwThreadId;
+} PROCESS_INFORMATION;
+
+K32_API DWORD WINAPI GetEnvironmentVariableA(LPCSTR name, LPSTR buffer, DWORD size);
+K32_API BOOL WINAPI CreateProcessA(LPCSTR application, LPSTR command_line, void *process_attributes,
+                                   void *thread_attributes, BOOL inherit_handles, DWORD flags,
+                                   void *environment, LPCSTR directory, STARTUPINFOA *startup,
+                                   PROCESS_INFORMATION *info);
+K32_API DWORD WINAPI WaitForSingleObject(HANDLE object, DWORD milliseconds);
+K32_API BOOL WINAPI GetExitCodeProcess(HANDLE process, LPDWORD code);
+
+#ifdef __cplusplus
+static_assert(sizeof(STARTUPINFOA) == 68, "STARTUPINFO is 68 bytes");
+static_assert(sizeof(PROCESS_INFORMATION) == 16, "PROCESS_INFORMATION is 16 bytes");
+#endif
+
+/* ---- end of the process block ------------------------------------------ */
+
 #ifdef __cplusplus
 }
 #endif

@@ -1,12 +1,8 @@
 // The last-resort diagnostics and their one route to the error stream.
 #pragma once
 
-// perror belongs in stdio.h and __pure_error_ is for compiled virtual
-// tables; until stdio.h exists both are declared here.
-extern "C" {
-void perror(const char *prefix);
-void __pure_error_(void);
-}
+// __pure_error_ is for compiled virtual tables: no header declares it.
+extern "C" void __pure_error_(void);
 
 namespace orv::diag {
 

@@ -1,24 +1,15 @@
 // The diagnostics' only contact with the error stream and with abort.
-//
-// FILE streams and abort are not part of the library yet. Until they are,
-// text goes to descriptor 2 through _write (the descriptor is in text mode,
-// as stderr's would be) and the stop ends the process with status 1, the
-// status abort has under the default signal action. When they arrive, each
-// body here becomes the single call named beside its declaration in diag.h,
-// and nothing else changes.
+// The assertion text is spelled out piece by piece rather than formatted.
 #include "clib/error/diag.h"
-#include "include/io.h"
+#include "include/stdio.h"
+#include "include/stdlib.h"
 #include "include/string.h"
-#include "platform/kernel32.h"
 
 namespace orv::diag {
 
-void put_text(const char *text) { _write(2, text, static_cast<unsigned>(strlen(text))); }
+void put_text(const char *text) { fputs(text, stderr); }
 
-void put_char(int c) {
-    char byte = static_cast<char>(c);
-    _write(2, &byte, 1);
-}
+void put_char(int c) { fputc(c, stderr); }
 
 // assertion_format, spelled out piece by piece.
 void put_assertion(const char *file, int line, const char *text) {
@@ -37,6 +28,6 @@ void put_assertion(const char *file, int line, const char *text) {
     put_text("\n");
 }
 
-void stop() { ExitProcess(1); }
+void stop() { abort(); }
 
 } // namespace orv::diag

@@ -1,5 +1,5 @@
 #include "clib/random/c_generator.h"
-#include "include/io.h"
+#include "include/stdio.h"
 #include "include/stdlib.h"
 #include "runtime/export.h"
 
@@ -7,12 +7,10 @@ namespace {
 
 constexpr unsigned minimum_bytes = orv::rnd::table_words * 4;
 
-// "'initstate' must be called with value of at least 220\n", on the error
-// descriptor. Standard error is unbuffered, so writing the descriptor
-// directly puts out the same bytes at the same moment as a stream would.
+// "'initstate' must be called with value of at least 220\n" on stderr.
 void complain() {
     static constexpr char text[] = "'initstate' must be called with value of at least ";
-    char line[sizeof text + 12];
+    char line[sizeof text + 13];
     unsigned n = 0;
     for (const char *p = text; *p; ++p) line[n++] = *p;
     char digits[10];
@@ -20,7 +18,8 @@ void complain() {
     for (unsigned v = minimum_bytes; v; v /= 10) digits[d++] = static_cast<char>('0' + v % 10);
     while (d) line[n++] = digits[--d];
     line[n++] = '\n';
-    _write(2, line, n);
+    line[n] = 0;
+    fputs(line, stderr);
 }
 
 } // namespace
