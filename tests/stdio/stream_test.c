@@ -1,0 +1,232 @@
+/* FILE streams: the records, opening, the buffer rules and the calls they
+   make of the descriptor layer, positions, and the failure answers. */
+#include <errno.h>
+#include <fcntl.h>
+#include <io.h>
+#include <stdio.h>
+#include <string.h>
+
+#include "harness.h"
+#include "platform/k32_faults.h"
+
+static K32TraceEntry trace[64];
+
+static int writes_in(unsigned n) {
+    int w = 0;
+    for (unsigned i = 0; i < n && i < 64; ++i) w += trace[i].op == K32_WriteFile;
+    return w;
+}
+
+static FILE *reopen_with(const char *text, const char *mode) {
+    t_write_file("f.txt", text, t_strlen(text));
+    return fopen("f.txt", mode);
+}
+
+static void initial_records(void) {
+    t_section("initial records");
+    CHECK_EQ(sizeof(FILE), 24);
+    CHECK_EQ(stdin - _orviob, 0);
+    CHECK_HEX(stdin->_flag, 0x89);
+    CHECK_HEX(stdout->_flag, 0x8A);
+    CHECK_HEX(stderr->_flag, 0x0E);
+    CHECK_EQ(stdin->_bufsiz, 512);
+    CHECK_EQ(stderr->_bufsiz, 1);
+    CHECK(stdin->_base != stdout->_base);
+}
+
+static void modes(void) {
+    t_section("modes");
+    static const struct { const char *mode; int flag; } good[] = {
+        {"r", 0x401}, {"w", 0x402}, {"a", 0x402}, {"rb+", 0x500}, {"r+b", 0x500}, {"wbb", 0x402}, {"a+", 0x500}};
+    t_write_file("m.txt", "x", 1);
+    for (unsigned i = 0; i < sizeof good / sizeof good[0]; ++i) {
+        FILE *f = fopen("m.txt", good[i].mode);
+        CHECK(f != NULL);
+        if (!f) continue;
+        CHECK_HEX(f->_flag, good[i].flag);
+        CHECK_EQ(f->_bufsiz, 1024);
+        CHECK_EQ(fclose(f), 0);
+    }
+    static const char *const bad[] = {"", "rt", "x", "r+x", "b"};
+    for (unsigned i = 0; i < sizeof bad / sizeof bad[0]; ++i) {
+        errno = 0;
+        CHECK(fopen("m.txt", bad[i]) == NULL);
+        CHECK_EQ(errno, EINVAL);
+    }
+    errno = 0;
+    CHECK(fopen("missing.txt", "r") == NULL);
+    CHECK_EQ(errno, EACCES);
+    FILE *dev = fopen("/dev/null", "w");
+    CHECK(dev && (dev->_flag & _IONBF) && dev->_bufsiz == 1);
+    fclose(dev);
+    errno = 0;
+    CHECK(fdopen(0x7FFFFFFF, "r") == NULL);
+    CHECK_EQ(errno, EDOM);
+    CHECK(freopen("m.txt", "r", (FILE *)&errno) == NULL);
+    CHECK_EQ(errno, EDOM);
+}
+
+/* A full buffer goes out in one write, only when its last byte is stored. */
+static void buffer_rules(void) {
+    t_section("buffer rules");
+    FILE *f = fopen("w.bin", "wb");
+    k32_trace_start(trace, 64);
+    for (int i = 0; i < 1023; ++i) putc('a' + i % 26, f);
+    CHECK_EQ(writes_in(k32_trace_stop()), 0);
+    k32_trace_start(trace, 64);
+    putc('!', f);
+    unsigned n = k32_trace_stop();
+    CHECK_EQ(writes_in(n), 1);
+    CHECK_EQ(trace[0].count, 1024);
+    putc('x', f);
+    CHECK_EQ(f->_cnt, 1022);
+    CHECK_EQ(fclose(f), 0);
+    char buf[2048];
+    CHECK_EQ(t_read_file("w.bin", buf, sizeof buf), 1025);
+
+    f = fopen("u.bin", "wb");
+    CHECK_EQ(setvbuf(f, NULL, _IONBF, 0), 0);
+    k32_trace_start(trace, 64);
+    fputs("abc", f);
+    CHECK_EQ(writes_in(k32_trace_stop()), 3);
+    CHECK_EQ(setvbuf(f, NULL, _IOLBF, 64), 0);
+    k32_trace_start(trace, 64);
+    fputs("one\ntwo", f);
+    n = k32_trace_stop();
+    CHECK_EQ(writes_in(n), 1);
+    CHECK_EQ(trace[0].count, 4);
+    CHECK_EQ(setvbuf(f, NULL, 0, 64), -1); /* output pending */
+    CHECK_EQ(fflush(f), 0);
+    CHECK_EQ(setvbuf(f, NULL, 0, 65536), 0);
+    CHECK_EQ(setvbuf(f, NULL, 0, 65537), -1);
+    CHECK_EQ(setvbuf(f, NULL, 1, 64), -1);
+    setbuf(f, NULL);
+    CHECK(f->_flag & _IONBF);
+    static char mine[BUFSIZ];
+    setbuf(f, mine);
+    CHECK(f->_base == (unsigned char *)mine && f->_bufsiz == 1024 && (f->_flag & _IOUSERBUF));
+    fclose(f);
+    CHECK_EQ(t_read_file("u.bin", buf, sizeof buf), 10);
+}
+
+static void block_and_line_io(void) {
+    t_section("block and line operations");
+    FILE *f = fopen("b.bin", "wb");
+    CHECK_EQ(fwrite("xyz", 0, 5, f), 5);
+    CHECK_EQ(fwrite("abcdefg", 2, 3, f), 3);
+    CHECK_EQ(_putw(0x64636261, f), 0x64636261);
+    fclose(f);
+    f = fopen("b.bin", "rb");
+    char items[16] = {0};
+    CHECK_EQ(fread(items, 4, 3, f), 2); /* 10 bytes: the partial item is consumed */
+    CHECK_MEM(items, 10, "abcdefabcd", 10);
+    CHECK(feof(f) == 16);
+    fclose(f);
+
+    f = reopen_with("ab\r\ncd\r\nlast", "r");
+    char line[16];
+    memset(line, '#', sizeof line);
+    CHECK(fgets(line, 1, f) == line && line[0] == '#');
+    CHECK(fgets(line, 3, f) == line);
+    CHECK_STR(line, "ab");
+    CHECK(fgets(line, sizeof line, f) == line);
+    CHECK_STR(line, "\n");
+    CHECK_EQ(ftell(f), 4); /* the CR LF counts for two */
+    CHECK(fgets(line, sizeof line, f) && fgets(line, sizeof line, f));
+    CHECK_STR(line, "last");
+    CHECK(fgets(line, sizeof line, f) == NULL);
+    CHECK_STR(line, "last");
+    fclose(f);
+}
+
+static void positions_and_pushback(void) {
+    t_section("positions and push-back");
+    FILE *f = reopen_with("a\r\nb\r\nc\r\n", "r");
+    CHECK_EQ(getc(f), 'a');
+    CHECK_EQ(ftell(f), 1);
+    CHECK_EQ(getc(f), '\n');
+    CHECK_EQ(getc(f), 'b');
+    CHECK_EQ(ftell(f), 4); /* unread LFs stood as CR LF on the file */
+    CHECK_EQ(getc(f), '\n');
+    CHECK_EQ(fseek(f, 0, SEEK_SET), 0);
+    CHECK_EQ(ungetc('z', f), 'z');
+    CHECK_EQ(f->_cnt, 1);
+    CHECK(f->_ptr == f->_base + f->_bufsiz - 1);
+    CHECK_EQ(getc(f), 'z');
+    CHECK_EQ(ungetc(EOF, f), EOF);
+    errno = 0;
+    CHECK_EQ(fseek(f, 0, 3), -1);
+    CHECK_EQ(errno, 0);
+    while (getc(f) != EOF) {}
+    CHECK(feof(f));
+    CHECK_EQ(ungetc('q', f), 'q');
+    CHECK(!feof(f));
+    fclose(f);
+
+    /* Line buffering keeps _cnt at 0, so each step reaches _filbuf or
+       _flsbuf, which see the direction the stream last went. */
+    f = fopen("p.txt", "w+");
+    setvbuf(f, NULL, _IOLBF, 64);
+    fputs("h", f);
+    errno = 0;
+    CHECK_EQ(getc(f), EOF); /* reading a writing stream */
+    CHECK_EQ(ferror(f), 32);
+    CHECK_EQ(errno, 0);
+    CHECK_EQ(rewind(f), 0);
+    CHECK(ferror(f));
+    clearerr(f);
+    CHECK_EQ(getc(f), 'h');
+    errno = 0;
+    CHECK_EQ(putc('x', f), EOF); /* read data in hand */
+    CHECK_EQ(errno, EBADF);
+    fclose(f);
+}
+
+static void failures(void) {
+    t_section("failures");
+    FILE *f = fopen("e.bin", "wb");
+    fputs("pending", f);
+    k32_fail_call(K32_WriteFile, 1);
+    CHECK_EQ(fflush(f), -1);
+    CHECK(!ferror(f)); /* a failed flush sets no flag, and drops the data */
+    CHECK_EQ(fflush(f), 0);
+    setvbuf(f, NULL, _IONBF, 0);
+    k32_fail_call(K32_WriteFile, 1);
+    errno = 0;
+    CHECK_EQ(putc('x', f), EOF);
+    CHECK_EQ(errno, EIO);
+    CHECK(ferror(f));
+    fclose(f);
+    char buf[16];
+    CHECK_EQ(t_read_file("e.bin", buf, sizeof buf), 1); /* the byte that failed goes out at fclose */
+    errno = 0;
+    CHECK_EQ(fclose(f), -1);
+    CHECK_EQ(errno, EBADF);
+    CHECK_EQ(fflush(f), -1);
+
+    f = reopen_with("data", "r");
+    k32_fail_call(K32_ReadFile, 1);
+    CHECK_EQ(getc(f), EOF);
+    CHECK(ferror(f) && feof(f));
+    fclose(f);
+
+    FILE *all[FOPEN_MAX];
+    int opened = 0;
+    while ((all[opened] = fopen("m.txt", "r")) != NULL) ++opened;
+    CHECK_EQ(errno, EMFILE);
+    CHECK_EQ(opened, FOPEN_MAX - 3);
+    while (opened > 0) fclose(all[--opened]);
+    CHECK_EQ(fclose(stdin), 0);
+    f = fopen("m.txt", "r");
+    CHECK(f == stdin);
+}
+
+int main(void) {
+    initial_records();
+    modes();
+    buffer_rules();
+    block_and_line_io();
+    positions_and_pushback();
+    failures();
+    return t_finish();
+}
