@@ -9,8 +9,6 @@
 extern "C" {
 #endif
 ORV_EXPORT char *_orv_get_tmpdir(void);
-ORV_EXPORT char *tmpnam(char *buffer);
-ORV_EXPORT char *tempnam(const char *dir, const char *prefix);
 #ifdef __cplusplus
 }
 

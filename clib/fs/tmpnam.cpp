@@ -1,5 +1,6 @@
 #include "clib/fs/file_exists.h"
 #include "clib/fs/temp_names.h"
+#include "include/stdio.h"
 
 namespace {
 constinit std::uint16_t counter = 1;

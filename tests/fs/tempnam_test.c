@@ -1,5 +1,6 @@
 /* Temporary names: counters, prefixes, directories with and without a
    trailing backslash, names that already exist. */
+#include <stdio.h>
 #include <stdlib.h>
 
 #include "clib/fs/temp_names.h"
@@ -69,5 +70,20 @@ int main(void) {
     CHECK(starts_with(p, dir));
     CHECK_STR(p + len, "e00007");
     free(p);
+
+    t_section("tmpfile leaves nothing behind");
+    char path[1100];
+    t_memset(path, 0, sizeof path);
+    for (unsigned i = 0; i < len; ++i) path[i] = dir[i];
+    const char name[] = "tfl00001";
+    for (unsigned i = 0; i < sizeof name; ++i) path[len + i] = name[i];
+    path[len - 1] = '/';
+    t_remove(path);
+    FILE *f = tmpfile();
+    CHECK(f != NULL && (f->_flag & _IOTMP) && (f->_flag & _IORW));
+    CHECK(t_exists(path));
+    CHECK_EQ(fputs("scratch", f), 0);
+    CHECK_EQ(fclose(f), 0);
+    CHECK(!t_exists(path));
     return t_finish();
 }
