@@ -1,4 +1,4 @@
-/* Streams, exit handlers, the environment, a shell command and a signal. */
+/* Streams, formatted output, exit handlers, the environment, a shell command and a signal. */
 #include <signal.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -19,18 +19,14 @@ int main(void) {
     rewind(f);
     char line[64];
     while (fgets(line, sizeof line, f)) fputs(line, stdout);
-    fputs("position at end: ", stdout);
-    long pos = ftell(f); /* file bytes: each LF stands as CR LF */
-    char digits[12], *p = digits + sizeof digits;
-    *--p = 0;
-    do *--p = (char)('0' + pos % 10); while ((pos /= 10) != 0);
-    puts(p);
+    printf("position at end: %ld (file bytes: each LF stands as CR LF)\n", ftell(f));
     fclose(f);
     remove("demo_stream.txt");
 
     const char *home = getenv("HOME");
-    fputs("HOME is ", stdout);
-    puts(home ? home : "(not set)");
+    printf("HOME is %s\n", home ? home : "(not set)");
+    printf("[%5d] [%-5d] [%05d] [%#x] [%p] [%lld] [%.3s]\n", 42, 42, -42, 255, (void *)0x1000,
+           -9223372036854775807LL - 1, "abcdef");
     if (getenv("SHELL")) system("echo a child through the shell");
 
     signal(SIGINT, on_signal);

@@ -97,5 +97,7 @@ _ORV_END
 #define _fileno(s) ((s)->_file)
 #define fileno(s) _fileno(s)
 
+#include "_orv_printf.h"
+
 
 #endif

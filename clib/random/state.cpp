@@ -7,20 +7,7 @@ namespace {
 
 constexpr unsigned minimum_bytes = orv::rnd::table_words * 4;
 
-// "'initstate' must be called with value of at least 220\n" on stderr.
-void complain() {
-    static constexpr char text[] = "'initstate' must be called with value of at least ";
-    char line[sizeof text + 13];
-    unsigned n = 0;
-    for (const char *p = text; *p; ++p) line[n++] = *p;
-    char digits[10];
-    unsigned d = 0;
-    for (unsigned v = minimum_bytes; v; v /= 10) digits[d++] = static_cast<char>('0' + v % 10);
-    while (d) line[n++] = digits[--d];
-    line[n++] = '\n';
-    line[n] = 0;
-    fputs(line, stderr);
-}
+void complain() { fprintf(stderr, "'initstate' must be called with value of at least %d\n", minimum_bytes); }
 
 } // namespace
 

@@ -1,0 +1,65 @@
+// The formatted output engine's pieces: the conversion record, the
+// argument reader, the field printer and the integer printers.
+#pragma once
+
+#include "include/stdio.h"
+#include "runtime/export.h"
+
+#include <cstddef>
+#include <cstdint>
+
+static_assert(sizeof(_orv_sink) == 8);
+static_assert(offsetof(_orv_sink, context) == 0 && offsetof(_orv_sink, put) == 4);
+
+// One conversion, filled afresh for each.
+struct format_spec {
+    int width = -1;
+    int precision = -1;
+    bool pad_blank = true;
+    bool right_justify = true;
+    bool plus = false;
+    bool space = false;
+    bool alternate = false;
+    bool numeric = true;
+    bool long_flag = false;
+    bool long_long = false;
+    bool short_flag = false;
+    bool quad_flag = false;
+    char conversion = 0;
+};
+
+namespace orv::fmt {
+
+inline constexpr int text_area = 1024; // each printer's private text area
+
+// fputc as a sink's put: the same call with the stream as context.
+inline auto fputc_put() { return reinterpret_cast<int (*)(int, void *)>(fputc); }
+
+// A plain pointer into the caller's argument area; slots have no alignment
+// beyond their sizes.
+struct Arguments {
+    const unsigned char *at;
+    template <class T> T take() {
+        T v;
+        __builtin_memcpy(&v, at, sizeof v);
+        at += sizeof v;
+        return v;
+    }
+    void skip(unsigned bytes) { at += bytes; }
+};
+
+} // namespace orv::fmt
+
+extern "C" {
+ORV_HIDDEN const char *__parse_conversion(format_spec *spec, const char *format, orv::fmt::Arguments *arguments);
+ORV_HIDDEN int __print_field(const format_spec *spec, _orv_sink *sink, const char *text, int limit);
+ORV_HIDDEN char *__digit_string(char *end, std::uint64_t value, int minimum, unsigned base);
+ORV_HIDDEN int __print_signed(const format_spec *spec, _orv_sink *sink, std::int64_t value);
+ORV_HIDDEN int __print_unsigned(const format_spec *spec, _orv_sink *sink, std::uint64_t value);
+ORV_HIDDEN int __print_octal(const format_spec *spec, _orv_sink *sink, std::uint64_t value);
+ORV_HIDDEN int __print_hex(const format_spec *spec, _orv_sink *sink, std::uint64_t value);
+ORV_HIDDEN int __batch_put(int character, void *stream);
+ORV_HIDDEN int __flush_batch(void *stream);
+// The floating conversions e, f, g: the digits come with the quad layer.
+ORV_HIDDEN int __print_floating(const format_spec *spec, _orv_sink *sink, orv::fmt::Arguments *arguments);
+}
