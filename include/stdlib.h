@@ -34,6 +34,9 @@ ldiv_t ldiv(long numer, long denom);
 int abs(int value);
 long labs(long value);
 
+double strtod(const char *text, char **end);
+double atof(const char *text);
+double __d_ten_to(unsigned power);
 long strtol(const char *text, char **end, int base);
 unsigned long strtoul(const char *text, char **end, int base);
 int atoi(const char *text);

@@ -4,7 +4,7 @@
 // the low word is short by their carries. Rounding looks at that low word
 // before normalisation: to nearest, ties to even, when the product is below
 // 2 and one shift follows; otherwise it rounds up only when the top two
-// bits of the low word are both set.
+// bits of the low word are both set. Exponents out of range saturate.
 #include "stdio/x96/x96.h"
 
 using namespace orv::x96f;
@@ -68,7 +68,16 @@ extern "C" ORV_EXPORT void _mulx(const std::uint32_t* a, const std::uint32_t* b,
         shift_left96(p_hi, p_mid, p_lo);
         --exponent;
     }
-    result[0] = make_head(sign, exponent + kBias);
+    // Out of the field's range the product saturates: zero below, the
+    // largest field above, so that a scaling far out of range reads as
+    // underflow or overflow rather than wrapping.
+    int field = exponent + kBias;
+    if (field <= 0) {
+        set_zero(result);
+        return;
+    }
+    if (field > 0x7FFF) field = 0x7FFF;
+    result[0] = make_head(sign, field);
     result[1] = p_hi;
     result[2] = p_mid;
 }

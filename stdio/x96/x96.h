@@ -10,8 +10,9 @@
 //           16383, 0 marks zero), bits 15..0 zero
 //   word 1: significand high half, bit 31 the explicit leading one
 //   word 2: significand low half
-// There are no infinities, NaNs or denormals; exponents out of range wrap
-// into the field and callers keep away from them.
+// There are no infinities, NaNs or denormals. A product out of range
+// saturates (to zero, or to the largest exponent); elsewhere exponents out
+// of range wrap into the field and callers keep away from them.
 #pragma once
 
 #include <cstddef>
