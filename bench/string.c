@@ -1,4 +1,4 @@
-/* Block and string functions and qsort, against the host's C library.
+/* Block and string functions, number text and qsort, against the host's C library.
    Every call goes through a volatile pointer so that neither compiler can
    answer it in line. */
 #include <stdlib.h>
@@ -13,6 +13,7 @@ static size_t (*volatile p_strlen)(const char *) = strlen;
 static int (*volatile p_strcmp)(const char *, const char *) = strcmp;
 static char *(*volatile p_strchr)(const char *, int) = strchr;
 static long (*volatile p_strtol)(const char *, char **, int) = strtol;
+static double (*volatile p_strtod)(const char *, char **) = strtod;
 
 #define MIB (1u << 20)
 static unsigned char src[MIB + 64], dst[MIB + 64];
@@ -114,6 +115,21 @@ static void integers(void) {
     BENCH_KEEP(sum);
 }
 
+static const char *const decimals[] = {
+    "0", "3.14159", "-2.5e-3", "1e10", "6.02214076e23", "0.1", "123456.789", "1.7976931348623157e308",
+    "2.2250738585072014e-308", "42", "-0.000001", "9.999999999999999e22", "1.5", "100", "7e-10", "0.3333333333333333",
+};
+enum { DECIMALS = sizeof decimals / sizeof decimals[0] };
+
+static void reals(void) {
+    double sum = 0;
+    double t = bench_now();
+    for (unsigned r = 0; r < 100000; ++r)
+        for (unsigned n = 0; n < DECIMALS; ++n) sum += p_strtod(decimals[n], 0);
+    bench_report("strtod", bench_now() - t);
+    BENCH_KEEP(sum);
+}
+
 static unsigned compares;
 static int compare_ints(const void *a, const void *b) {
     ++compares;
@@ -143,6 +159,7 @@ int main(void) {
     blocks();
     strings();
     integers();
+    reals();
     sorting();
     return 0;
 }

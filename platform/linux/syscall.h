@@ -59,42 +59,48 @@ enum Number : long {
     nr_statx = 383,
 };
 
+// Where system calls enter the kernel (kernel_entry.S): the kernel's fast
+// entry once the loader has told it, int $0x80 before.
+extern "C" void *orv_kernel_entry __attribute__((visibility("hidden")));
+
+#define ORV_SYSCALL "call *%[entry]"
+
 inline long call0(long nr) {
     long r;
-    __asm__ volatile("int $0x80" : "=a"(r) : "a"(nr) : "memory");
+    __asm__ volatile(ORV_SYSCALL : "=a"(r) : [entry] "m"(orv_kernel_entry), "a"(nr) : "memory");
     return r;
 }
 inline long call1(long nr, long a) {
     long r;
-    __asm__ volatile("int $0x80" : "=a"(r) : "a"(nr), "b"(a) : "memory");
+    __asm__ volatile(ORV_SYSCALL : "=a"(r) : [entry] "m"(orv_kernel_entry), "a"(nr), "b"(a) : "memory");
     return r;
 }
 inline long call2(long nr, long a, long b) {
     long r;
-    __asm__ volatile("int $0x80" : "=a"(r) : "a"(nr), "b"(a), "c"(b) : "memory");
+    __asm__ volatile(ORV_SYSCALL : "=a"(r) : [entry] "m"(orv_kernel_entry), "a"(nr), "b"(a), "c"(b) : "memory");
     return r;
 }
 inline long call3(long nr, long a, long b, long c) {
     long r;
-    __asm__ volatile("int $0x80"
+    __asm__ volatile(ORV_SYSCALL
                      : "=a"(r)
-                     : "a"(nr), "b"(a), "c"(b), "d"(c)
+                     : [entry] "m"(orv_kernel_entry), "a"(nr), "b"(a), "c"(b), "d"(c)
                      : "memory");
     return r;
 }
 inline long call4(long nr, long a, long b, long c, long d) {
     long r;
-    __asm__ volatile("int $0x80"
+    __asm__ volatile(ORV_SYSCALL
                      : "=a"(r)
-                     : "a"(nr), "b"(a), "c"(b), "d"(c), "S"(d)
+                     : [entry] "m"(orv_kernel_entry), "a"(nr), "b"(a), "c"(b), "d"(c), "S"(d)
                      : "memory");
     return r;
 }
 inline long call5(long nr, long a, long b, long c, long d, long e) {
     long r;
-    __asm__ volatile("int $0x80"
+    __asm__ volatile(ORV_SYSCALL
                      : "=a"(r)
-                     : "a"(nr), "b"(a), "c"(b), "d"(c), "S"(d), "D"(e)
+                     : [entry] "m"(orv_kernel_entry), "a"(nr), "b"(a), "c"(b), "d"(c), "S"(d), "D"(e)
                      : "memory");
     return r;
 }

@@ -1,0 +1,1 @@
+orv_add_bench(printf printf.c ROUNDS 3)

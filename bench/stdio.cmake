@@ -1,0 +1,1 @@
+orv_add_bench(stdio stdio.c ROUNDS 3)
