@@ -48,6 +48,10 @@ struct Arguments {
     void skip(unsigned bytes) { at += bytes; }
 };
 
+// n characters to the sink: for a stream sink in runs, as the inline step
+// would store them; otherwise one put at a time. Answers n, or -1.
+int put_run(_orv_sink *sink, const char *text, int n);
+
 } // namespace orv::fmt
 
 extern "C" {

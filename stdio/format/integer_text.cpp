@@ -25,15 +25,27 @@ int field(const format_spec *spec, _orv_sink *sink, const char *text) {
 
 } // namespace
 
+// The digits of base^k fit a 32-bit word: the wide part of a value costs
+// one helper division per k digits, the rest is 32-bit work.
 extern "C" char *__digit_string(char *end, std::uint64_t value, int minimum, unsigned base) {
+    unsigned k = 0;
+    std::uint32_t chunk = 1;
+    while (chunk <= 0xFFFFFFFFu / base) chunk *= base, ++k;
     *end = 0;
     char *p = end;
     int made = 0;
+    while (value >> 32) {
+        std::uint64_t high = _orvane_uldiv(value, chunk);
+        std::uint32_t low = static_cast<std::uint32_t>(value) - static_cast<std::uint32_t>(high) * chunk;
+        for (unsigned i = 0; i < k; ++i, ++made, low /= base) *--p = static_cast<char>('0' + low % base);
+        value = high;
+    }
+    std::uint32_t v = static_cast<std::uint32_t>(value);
     do {
-        *--p = static_cast<char>('0' + _orvane_ulmod(value, base));
-        value = _orvane_uldiv(value, base);
+        *--p = static_cast<char>('0' + v % base);
+        v /= base;
         ++made;
-    } while (value != 0 || made < minimum);
+    } while (v != 0 || made < minimum);
     return p;
 }
 

@@ -35,8 +35,8 @@ extern "C" int __print_field(const format_spec *spec, _orv_sink *sink, const cha
     if (spec->right_justify)
         for (; length < total; --total)
             if (!out.put(pad)) return -1;
-    for (int i = 0; i < length; ++i)
-        if (!out.put(text[i])) return -1;
+    if (orv::fmt::put_run(sink, text, length) == -1) return -1;
+    out.count += length;
     for (; length < total; --total)
         if (!out.put(' ')) return -1;
     return out.count;

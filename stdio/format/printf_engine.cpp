@@ -65,7 +65,9 @@ extern "C" ORV_EXPORT int _printf_(_orv_sink *sink, const char *format, const vo
     for (const char *p = format; *p;) {
         int n;
         if (*p != '%') {
-            n = sink->put(static_cast<unsigned char>(*p++), sink->context) == -1 ? -1 : 1;
+            const char *run = p;
+            while (*p && *p != '%') ++p;
+            n = orv::fmt::put_run(sink, run, static_cast<int>(p - run));
         } else {
             format_spec spec;
             p = __parse_conversion(&spec, p + 1, &args);

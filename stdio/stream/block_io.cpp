@@ -3,19 +3,14 @@
 
 using namespace orv::stdio;
 
-// fread and fwrite move bytes as the inline step would, one by one, with
-// the same calls of _filbuf and _flsbuf at the same moments; only the runs
-// the inline step would take without a call are copied as blocks.
-namespace {
+namespace orv::stdio {
 
-using Total = unsigned long long;
-
-Total read_bytes(unsigned char *to, Total want, FILE *s) {
-    Total done = 0;
+std::size_t read_run(unsigned char *to, std::size_t want, FILE *s) {
+    std::size_t done = 0;
     while (done < want) {
         if (s->_cnt > 0) {
-            Total run = want - done < static_cast<Total>(s->_cnt) ? want - done : static_cast<Total>(s->_cnt);
-            memcpy(to + done, s->_ptr, static_cast<size_t>(run));
+            std::size_t run = want - done < static_cast<std::size_t>(s->_cnt) ? want - done : s->_cnt;
+            memcpy(to + done, s->_ptr, run);
             s->_ptr += run;
             s->_cnt -= static_cast<int>(run);
             done += run;
@@ -28,12 +23,12 @@ Total read_bytes(unsigned char *to, Total want, FILE *s) {
     return done;
 }
 
-Total write_bytes(const unsigned char *from, Total want, FILE *s) {
-    Total done = 0;
+std::size_t write_run(const unsigned char *from, std::size_t want, FILE *s) {
+    std::size_t done = 0;
     while (done < want) {
         if (s->_cnt > 0) {
-            Total run = want - done < static_cast<Total>(s->_cnt) ? want - done : static_cast<Total>(s->_cnt);
-            memcpy(s->_ptr, from + done, static_cast<size_t>(run));
+            std::size_t run = want - done < static_cast<std::size_t>(s->_cnt) ? want - done : s->_cnt;
+            memcpy(s->_ptr, from + done, run);
             s->_ptr += run;
             s->_cnt -= static_cast<int>(run);
             done += run;
@@ -45,18 +40,33 @@ Total write_bytes(const unsigned char *from, Total want, FILE *s) {
     return done;
 }
 
+} // namespace orv::stdio
+
+namespace {
+
+// Items of any size, in runs that fit a size_t.
+template <class Run, class Byte>
+std::size_t transfer(Byte *buffer, std::size_t size, std::size_t count, FILE *s, Run run) {
+    unsigned long long want = static_cast<unsigned long long>(size) * count, done = 0;
+    while (done < want) {
+        std::size_t piece = want - done > 0x40000000ULL ? 0x40000000u : static_cast<std::size_t>(want - done);
+        std::size_t got = run(buffer + done, piece, s);
+        done += got;
+        if (got < piece) break;
+    }
+    return static_cast<std::size_t>(done / size);
+}
+
 } // namespace
 
 // The bytes of a partial item are consumed and stay in the buffer.
 extern "C" ORV_EXPORT size_t fread(void *buffer, size_t size, size_t count, FILE *s) {
     if (size == 0 || count == 0) return 0;
-    Total done = read_bytes(static_cast<unsigned char *>(buffer), static_cast<Total>(size) * count, s);
-    return static_cast<size_t>(done / size);
+    return transfer(static_cast<unsigned char *>(buffer), size, count, s, read_run);
 }
 
 extern "C" ORV_EXPORT size_t fwrite(const void *buffer, size_t size, size_t count, FILE *s) {
     if (count == 0) return 0;
     if (size == 0) return count;
-    Total done = write_bytes(static_cast<const unsigned char *>(buffer), static_cast<Total>(size) * count, s);
-    return static_cast<size_t>(done / size);
+    return transfer(static_cast<const unsigned char *>(buffer), size, count, s, write_run);
 }

@@ -1,12 +1,12 @@
+#include "include/string.h"
 #include "stdio/stream/stream.h"
 
 using namespace orv::stdio;
 
 // No newline is added; the first failing store ends the string.
 extern "C" ORV_EXPORT int fputs(const char *string, FILE *s) {
-    for (const char *p = string; *p; ++p)
-        if (put(static_cast<unsigned char>(*p), s) == EOF) return EOF;
-    return 0;
+    std::size_t n = strlen(string);
+    return write_run(reinterpret_cast<const unsigned char *>(string), n, s) == n ? 0 : EOF;
 }
 
 extern "C" ORV_EXPORT int puts(const char *string) {

@@ -66,6 +66,13 @@ inline int put(int c, FILE *s) {
     return --s->_cnt >= 0 ? (*s->_ptr++ = static_cast<unsigned char>(c)) : _flsbuf(c & 255, s);
 }
 
+// Runs of bytes moved as the inline step would move them one by one, with
+// the same calls of _filbuf and _flsbuf at the same moments: only what the
+// inline step would take without a call is copied as a block. Answer the
+// bytes done, short at the first EOF.
+std::size_t read_run(unsigned char *to, std::size_t want, FILE *s);
+std::size_t write_run(const unsigned char *from, std::size_t want, FILE *s);
+
 // Sets errno and answers the null stream.
 FILE *fail_open(int code);
 
