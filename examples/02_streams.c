@@ -3,7 +3,7 @@
 #include <stdio.h>
 #include <stdlib.h>
 
-static void farewell(void) { puts("exit handler: runs before the streams are closed"); }
+static void farewell(void) { puts("exit handler: runs before exit closes the streams"); }
 
 static void on_signal(int sig) {
     fputs(sig == SIGINT ? "handler for SIGINT ran once\n" : "other signal\n", stdout);
@@ -14,11 +14,19 @@ int main(void) {
     fputs("stdout is line buffered; ", stdout);
     puts("this line went out at its LF");
 
+    /* Copy a text file, upper-casing it on the way. */
     FILE *f = fopen("demo_stream.txt", "w+");
     fputs("first line\nsecond line\n", f);
     rewind(f);
+    FILE *copy = fopen("demo_copy.txt", "w");
+    int c;
+    while ((c = getc(f)) != EOF) putc(c >= 'a' && c <= 'z' ? c - 32 : c, copy);
+    fclose(copy);
+    copy = fopen("demo_copy.txt", "r");
     char line[64];
-    while (fgets(line, sizeof line, f)) fputs(line, stdout);
+    while (fgets(line, sizeof line, copy)) fputs(line, stdout);
+    fclose(copy);
+    remove("demo_copy.txt");
     printf("position at end: %ld (file bytes: each LF stands as CR LF)\n", ftell(f));
     fclose(f);
     remove("demo_stream.txt");
@@ -31,5 +39,9 @@ int main(void) {
 
     signal(SIGINT, on_signal);
     raise(SIGINT);
+    /* Fully buffered from here: this line is still in the buffer when main
+       returns, and exit writes it out. */
+    setvbuf(stdout, NULL, _IOFBF, 512);
+    printf("pending at exit, written by exit\n");
     return 0;
 }
