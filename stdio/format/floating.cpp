@@ -1,9 +1,9 @@
-#include "stdio/format/format.h"
+#include "stdio/format/float_text.h"
 
-// The floating conversions take their slot, 8 bytes for a double or 16 for
-// a quad with "ll"; their digits come with the floating-point text layer,
-// and until then they print nothing.
-extern "C" int __print_floating(const format_spec *spec, _orv_sink *, orv::fmt::Arguments *arguments) {
-    arguments->skip(spec->quad_flag ? 16 : 8);
-    return 0;
+// A double takes 8 bytes of the argument area, a quad ("ll") 16.
+extern "C" int __print_floating(format_spec *spec, _orv_sink *sink, orv::fmt::Arguments *arguments) {
+    if (!spec->quad_flag) return orv::fmt::print_double(spec, sink, arguments->take<double>());
+    double high = arguments->take<double>();
+    double low = arguments->take<double>();
+    return orv::fmt::print_quad(spec, sink, high, low);
 }

@@ -65,5 +65,5 @@ ORV_HIDDEN int __print_hex(const format_spec *spec, _orv_sink *sink, std::uint64
 ORV_HIDDEN int __batch_put(int character, void *stream);
 ORV_HIDDEN int __flush_batch(void *stream);
 // The floating conversions e, f, g: the digits come with the quad layer.
-ORV_HIDDEN int __print_floating(const format_spec *spec, _orv_sink *sink, orv::fmt::Arguments *arguments);
+ORV_HIDDEN int __print_floating(format_spec *spec, _orv_sink *sink, orv::fmt::Arguments *arguments);
 }
