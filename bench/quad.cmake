@@ -1,0 +1,1 @@
+orv_add_bench(quad quad.c ROUNDS 3 HOST_LIBS -lquadmath)
