@@ -12,53 +12,14 @@
 #include <math.h>
 #include <stdlib.h>
 
-enum { F_EXP, F_LOG, F_LOG10, F_SQRT, F_SIN, F_COS, F_TAN, F_ASIN, F_ACOS, F_ATAN,
-       F_SINH, F_COSH, F_TANH, F_ATAN2, F_POW };
+#include "../tools/math_functions.h"
+
 
 typedef unsigned long long u64;
 
 static double D(u64 u) { union { u64 u; double d; } v; v.u = u; return v.d; }
 static u64 B(double d) { union { u64 u; double d; } v; v.d = d; return v.u; }
 
-static double call_double(int fn, double x, double y) {
-    switch (fn) {
-    case F_EXP: return exp(x);
-    case F_LOG: return log(x);
-    case F_LOG10: return log10(x);
-    case F_SQRT: return sqrt(x);
-    case F_SIN: return sin(x);
-    case F_COS: return cos(x);
-    case F_TAN: return tan(x);
-    case F_ASIN: return asin(x);
-    case F_ACOS: return acos(x);
-    case F_ATAN: return atan(x);
-    case F_SINH: return sinh(x);
-    case F_COSH: return cosh(x);
-    case F_TANH: return tanh(x);
-    case F_ATAN2: return atan2(x, y);
-    default: return pow(x, y);
-    }
-}
-
-static float call_float(int fn, float x, float y) {
-    switch (fn) {
-    case F_EXP: return expf(x);
-    case F_LOG: return logf(x);
-    case F_LOG10: return log10f(x);
-    case F_SQRT: return sqrtf(x);
-    case F_SIN: return sinf(x);
-    case F_COS: return cosf(x);
-    case F_TAN: return tanf(x);
-    case F_ASIN: return asinf(x);
-    case F_ACOS: return acosf(x);
-    case F_ATAN: return atanf(x);
-    case F_SINH: return sinhf(x);
-    case F_COSH: return coshf(x);
-    case F_TANH: return tanhf(x);
-    case F_ATAN2: return atan2f(x, y);
-    default: return powf(x, y);
-    }
-}
 
 static void out(const char *s) {
     unsigned n = 0;

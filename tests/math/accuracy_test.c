@@ -4,9 +4,8 @@
    has: a bound in units in the last place of the result, per family. */
 #include "mathcheck.h"
 #include "math_ref_values.h"
+#include "tools/math_functions.h"
 
-enum { F_EXP, F_LOG, F_LOG10, F_SQRT, F_SIN, F_COS, F_TAN, F_ASIN, F_ACOS, F_ATAN,
-       F_SINH, F_COSH, F_TANH, F_ATAN2, F_POW, F_COUNT };
 
 /* Largest distance allowed from the correctly rounded result, in ulps of
    double and of float: the largest error that tools/math_refs.c and
@@ -20,45 +19,6 @@ static const int bound_double[F_COUNT] = {
 static const int bound_float[F_COUNT] = {
     1, 1, 2, 1, 1, 1, 3, 2, 1, 2, 2, 1, 1, 2, 2};
 
-static double call_double(int fn, double x, double y) {
-    switch (fn) {
-    case F_EXP: return exp(x);
-    case F_LOG: return log(x);
-    case F_LOG10: return log10(x);
-    case F_SQRT: return sqrt(x);
-    case F_SIN: return sin(x);
-    case F_COS: return cos(x);
-    case F_TAN: return tan(x);
-    case F_ASIN: return asin(x);
-    case F_ACOS: return acos(x);
-    case F_ATAN: return atan(x);
-    case F_SINH: return sinh(x);
-    case F_COSH: return cosh(x);
-    case F_TANH: return tanh(x);
-    case F_ATAN2: return atan2(x, y);
-    default: return pow(x, y);
-    }
-}
-
-static float call_float(int fn, float x, float y) {
-    switch (fn) {
-    case F_EXP: return expf(x);
-    case F_LOG: return logf(x);
-    case F_LOG10: return log10f(x);
-    case F_SQRT: return sqrtf(x);
-    case F_SIN: return sinf(x);
-    case F_COS: return cosf(x);
-    case F_TAN: return tanf(x);
-    case F_ASIN: return asinf(x);
-    case F_ACOS: return acosf(x);
-    case F_ATAN: return atanf(x);
-    case F_SINH: return sinhf(x);
-    case F_COSH: return coshf(x);
-    case F_TANH: return tanhf(x);
-    case F_ATAN2: return atan2f(x, y);
-    default: return powf(x, y);
-    }
-}
 
 /* Distance in ulps between two finite values of one format, through
    their bit patterns laid out in order. */
