@@ -3,6 +3,11 @@
 #include "include/sys/utime.h"
 #include "runtime/export.h"
 
+#include <cstddef>
+
+static_assert(sizeof(struct utimbuf) == 8 && offsetof(struct utimbuf, actime) == 0 &&
+              offsetof(struct utimbuf, modtime) == 4);
+
 namespace {
 
 // Closes what _utime opened, on every way out.

@@ -25,7 +25,7 @@ bool fold_months(struct tm &r, int &y) {
     if (r.tm_mday > month_days(r.tm_mon, y)) {
         do {
             r.tm_mday -= month_days(r.tm_mon, y);
-            if (++r.tm_mon == 12) r.tm_mon = 0, ++y;
+            if (++r.tm_mon == 12) r.tm_mon = 0, y = wrap(i64{y} + 1);  // far years wrap, as in 32 bits
         } while (month_days(r.tm_mon, y) < r.tm_mday);
     }
     return true;

@@ -134,10 +134,26 @@ void widen(const char *from, WCHAR (&to)[32]) {
     for (; i < 32; ++i) to[i] = 0;
 }
 
-} // namespace
+// A rule may name as daylight time a period behind its standard time
+// (IST-1GMT0,M10.5.0,M3.5.0/1). The calendar functions take the daylight
+// shift as a magnitude added to local time, so the period ahead becomes the
+// daylight one; each switch stays on the clock it was read on, as the start
+// is read on the standard clock and the end on the daylight one.
+void put_daylight_ahead(TzRule &r) {
+    if (!r.has_dst || r.dst_offset <= r.std_offset) return;
+    TzRule swapped = r;
+    for (unsigned i = 0; i < sizeof r.std_name; ++i) {
+        swapped.std_name[i] = r.dst_name[i];
+        swapped.dst_name[i] = r.std_name[i];
+    }
+    swapped.std_offset = r.dst_offset;
+    swapped.dst_offset = r.std_offset;
+    swapped.dst_start = r.dst_end;
+    swapped.dst_end = r.dst_start;
+    r = swapped;
+}
 
-bool parse_tz_rule(const char *p, TzRule &r) {
-    r = TzRule{};
+bool parse_parts(const char *p, TzRule &r) {
     if (!parse_name(p, r.std_name) || !parse_time(p, 24, r.std_offset)) return false;
     if (*p == 0) return true;
     if (!parse_name(p, r.dst_name)) return false;
@@ -153,6 +169,15 @@ bool parse_tz_rule(const char *p, TzRule &r) {
     if (*p++ != ',' || !parse_date(p, r.dst_start)) return false;
     if (*p++ != ',' || !parse_date(p, r.dst_end)) return false;
     return *p == 0;
+}
+
+} // namespace
+
+bool parse_tz_rule(const char *p, TzRule &r) {
+    r = TzRule{};
+    if (!parse_parts(p, r)) return false;
+    put_daylight_ahead(r);
+    return true;
 }
 
 DWORD zone_info_at(const TzRule &r, std::int64_t now, TIME_ZONE_INFORMATION *info) {

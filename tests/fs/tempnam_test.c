@@ -18,7 +18,36 @@ static int starts_with(const char *s, const char *prefix) {
     return 1;
 }
 
-int main(void) {
+static long raw_execve(const char *path, char *const *argv, char *const *envp) {
+    long r;
+    __asm__ volatile("int $0x80" : "=a"(r) : "a"(11), "b"(path), "c"(argv), "d"(envp) : "memory");
+    return r;
+}
+
+/* A TMP of 1023 characters: with the separator the directory no longer fits
+   the first 1024 bytes, so the buffer grows and is asked again. */
+static char long_tmp[4 + 1023 + 1] = "TMP=";
+
+static int run_with_long_tmp(void *arg) {
+    (void)arg;
+    static char self[] = "/proc/self/exe", flag[] = "--long-tmp";
+    char *argv[] = {self, flag, 0};
+    char *envp[] = {long_tmp, 0};
+    raw_execve(self, argv, envp);
+    return 99;
+}
+
+static int report_long_tmp(void) {
+    char *dir = _orv_get_tmpdir();
+    if (dir == NULL || t_strlen(dir) != 1024 || dir[1023] != '\\') return 1;
+    return t_memeq(dir, long_tmp + 4, 1023) && _orv_get_tmpdir() == dir ? 0 : 2;
+}
+
+int main(int argc, char **argv) {
+    for (unsigned i = 4; i < 4 + 1023; ++i) long_tmp[i] = (char)('a' + i % 26);
+    long_tmp[4] = '/';
+    if (argc > 1 && argv[1][0] == '-') return report_long_tmp();
+
     t_section("tmpnam");
     t_remove("tnm00001");
     t_remove("tnm00002");
@@ -70,6 +99,10 @@ int main(void) {
     CHECK(starts_with(p, dir));
     CHECK_STR(p + len, "e00007");
     free(p);
+    t_child child;
+    t_run_child(&child, run_with_long_tmp, NULL, "", 0);
+    CHECK(child.exited);
+    CHECK_EQ(child.status, 0);
 
     t_section("tmpfile leaves nothing behind");
     char path[1100];

@@ -165,6 +165,11 @@ int main(void) {
     r = fields(1970, 1, 1, 0, 0, 0);
     r.tm_mday = INT_MIN;
     CHECK_EQ(mktime(&r), -1);
+    r = fields(1970, 1, 1, 0, 0, 0);
+    r.tm_year = INT_MIN + 68; /* year INT_MAX - 1 after 1970 */
+    r.tm_mon = 11;
+    r.tm_mday = 400; /* carries the year past the 32-bit range */
+    CHECK_EQ(mktime(&r), -1);
     /* Days carried into 2038 are out of range although time_t reaches them. */
     r = fields(2037, 12, 31, 0, 0, 0);
     r.tm_mday = 31 + 19;

@@ -35,6 +35,10 @@ int main(void) {
     CHECK_STR(fmt("%x", &leap_day), "Sun Feb 29, 2004");
     CHECK_STR(fmt("[%X]", &leap_day), "[13:05:09 ]");
     CHECK_EQ(strftime(out, sizeof out, "%c", &leap_day), 25);
+    struct tm epoch = at(1970, 1, 1, 0, 0, 0, 4, 0);
+    char *text = asctime(&epoch);
+    fmt("%c", &leap_day);
+    CHECK_STR(text, "Sun Feb 29 13:05:09 2004\n"); /* %c goes through asctime's buffer */
     CHECK_STR(fmt("date: %d.%m.%Y", &leap_day), "date: 29.02.2004");
     struct tm early = at(1970, 1, 1, 0, 0, 0, 4, 0);
     CHECK_STR(fmt("%x", &early), "Thu Jan  1, 1970");

@@ -79,6 +79,12 @@ static const struct {
     {"AEST-10AEDT,M10.1.0,M4.1.0/3", 2021, 4, 3, 16, 0, 0, 1},
     {"AEST-10AEDT,M10.1.0,M4.1.0/3", 2021, 10, 2, 15, 59, 59, 1},
     {"AEST-10AEDT,M10.1.0,M4.1.0/3", 2021, 10, 2, 16, 0, 0, 2},
+    /* daylight time named behind standard: the period ahead counts as daylight */
+    {"IST-1GMT0,M10.5.0,M3.5.0/1", 2021, 1, 15, 0, 0, 0, 1},
+    {"IST-1GMT0,M10.5.0,M3.5.0/1", 2021, 3, 28, 0, 59, 59, 1},
+    {"IST-1GMT0,M10.5.0,M3.5.0/1", 2021, 3, 28, 1, 0, 0, 2},
+    {"IST-1GMT0,M10.5.0,M3.5.0/1", 2021, 10, 31, 0, 59, 59, 2},
+    {"IST-1GMT0,M10.5.0,M3.5.0/1", 2021, 10, 31, 1, 0, 0, 1},
     /* zero-based days count 29 February, J days never do */
     {"AAA3BBB,59/0,300", 2020, 2, 29, 2, 59, 59, 1},
     {"AAA3BBB,59/0,300", 2020, 2, 29, 3, 0, 0, 2},
@@ -110,7 +116,8 @@ int main(void) {
     CHECK(on->wYear == 2020 && on->wMonth == 3 && on->wDay == 1); /* a date of this year */
     static const struct { const char *rule; LONG bias, daylight; } biases[] = {
         {"AAA3BBB2,J60/0,J300", 180, -60}, {"AAA3BBB1:30,J60/0,J300", 180, -90},
-        {"<+0330>-3:30", -210, 0},         {"CET-1CEST,M3.5.0,M10.5.0/3", -60, -60}};
+        {"<+0330>-3:30", -210, 0},         {"CET-1CEST,M3.5.0,M10.5.0/3", -60, -60},
+        {"IST-1GMT0,M10.5.0,M3.5.0/1", 0, -60}};
     for (unsigned i = 0; i < sizeof biases / sizeof biases[0]; ++i) {
         k32_set_time_zone(biases[i].rule);
         GetTimeZoneInformation(&info);
@@ -118,6 +125,7 @@ int main(void) {
         CHECK_EQ(info.DaylightBias, biases[i].daylight);
         CHECK_EQ(info.StandardBias, 0);
     }
+    CHECK(wide_is(info.StandardName, "GMT") && wide_is(info.DaylightName, "IST"));
     static const char *const bad[] = {"garbage!", "XYZ", "E5", "EST5EDT,M13.1.0,M11.1.0",
                                       "EST5EDT,M3.2.0", "EST25", "", ":No/Such_Zone"};
     for (unsigned i = 0; i < sizeof bad / sizeof bad[0]; ++i) {
