@@ -10,10 +10,10 @@ const uchar *scan_set(scan_spec *spec, const uchar *p) {
     for (uchar &entry : spec->set) entry = 0;
     spec->negate = *p == '^';
     if (spec->negate) ++p;
-    const uchar *first = p;
     if (*p == ']' || *p == '-') spec->set[*p++] = 1;
+    // From here a '-' always has a byte of the set before it.
     for (; *p != 0 && *p != ']'; ++p) {
-        if (*p == '-' && p > first && p[1] != ']' && p[1] != 0 && p[1] > p[-1]) {
+        if (*p == '-' && p[1] != ']' && p[1] != 0 && p[1] > p[-1]) {
             for (int member = p[-1] + 1; member <= p[1]; ++member) spec->set[member] = 1;
             ++p;
             continue;
