@@ -21,7 +21,7 @@ int unget_stream(int character, _orv_source *source) {
 }
 
 int from_stream(FILE *stream, const char *format, const void *arguments) {
-    if (!(stream->_flag & (_IOREAD | _IORW))) {
+    if (stream == nullptr || !(stream->_flag & (_IOREAD | _IORW))) {
         errno = EBADF;
         return -1;
     }
@@ -47,7 +47,12 @@ extern "C" ORV_EXPORT int fscanf(FILE *stream, const char *format, ...) {
     return n;
 }
 
+// No string is no input: -1, as for an empty one, and EINVAL to tell them apart.
 extern "C" ORV_EXPORT int sscanf(const char *string, const char *format, ...) {
+    if (string == nullptr) {
+        errno = EINVAL;
+        return -1;
+    }
     const unsigned char *cursor = reinterpret_cast<const unsigned char *>(string);
     _orv_source source{&cursor, get_string};
     va_list arguments;

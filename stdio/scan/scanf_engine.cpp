@@ -1,3 +1,4 @@
+#include "include/errno.h"
 #include "stdio/scan/scan.h"
 
 using namespace orv::scan;
@@ -126,7 +127,10 @@ struct Engine {
 // that character back at the end. Answers the assignments, or -1 when input
 // ended before any.
 extern "C" ORV_EXPORT int _scanf_(_orv_source *source, Unget unget, const char *format, const void *arguments) {
-    if (format == nullptr) return -1;
+    if (format == nullptr) {
+        errno = EINVAL;
+        return -1;
+    }
     Engine e;
     e.spec.get = source->get;
     e.spec.context = source->context;

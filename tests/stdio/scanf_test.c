@@ -56,12 +56,18 @@ static void results(void) {
     CHECK_EQ(ungets, 0); /* nothing in hand at the end of input */
     CHECK_EQ(sscanf("a", "%*c", &x), -1); /* consumed everything, assigned nothing */
     CHECK_EQ(sscanf("5,6", "%d;%d", &x, &n), 1);
-    CHECK_EQ(sscanf("5 ,6", "%d , %d", &x, &n), 2);
-    CHECK_EQ(n, 6);
+    CHECK(sscanf("5 ,6", "%d , %d", &x, &n) == 2 && n == 6);
     CHECK_EQ(sscanf("%7", "%%%d", &x), 1);
     CHECK_EQ(sscanf(" %7", "%%%d", &x), 0); /* no white space skipped before %% */
     CHECK_EQ(sscanf("1.5", "%F", &x), 0);
     CHECK_EQ(sscanf("x", "x%"), -1); /* a format ending behind '%' */
+    const char *volatile none = NULL;
+    errno = 0;
+    CHECK(sscanf(none, "%d", &x) == -1 && errno == EINVAL);
+    errno = 0;
+    CHECK(sscanf("1", none) == -1 && errno == EINVAL);
+    errno = 0;
+    CHECK(fscanf((FILE *)none, "%d", &x) == -1 && errno == EBADF);
     char word[8] = "zzzzzzz";
     /* The set ends at the terminator; the bytes behind it are not members. */
     static const char cut[] = "%[ab\0c]";
@@ -146,17 +152,13 @@ static void counts(void) {
     CHECK_EQ(sscanf("  12  34", "%d%n %d%n", &a, &n, &b, &m), 2);
     CHECK(n == 4 && m == 8);
     n = -1;
-    CHECK_EQ(sscanf("12", "%d%n", &a, &n), 1); /* behind the end of input */
-    CHECK_EQ(n, 2);
+    CHECK(sscanf("12", "%d%n", &a, &n) == 1 && n == 2); /* behind the end of input */
     n = -1;
-    CHECK_EQ(sscanf("12x", "%d%d%n", &a, &b, &n), 1); /* behind a failed conversion */
-    CHECK_EQ(n, 2);
+    CHECK(sscanf("12x", "%d%d%n", &a, &b, &n) == 1 && n == 2); /* behind a failed conversion */
     short h = -1;
-    CHECK_EQ(sscanf("abc", "abc%hn", &h), -1);
-    CHECK_EQ(h, 3);
+    CHECK(sscanf("abc", "abc%hn", &h) == -1 && h == 3);
     n = -1;
-    CHECK_EQ(sscanf("1", "%*d%n", &n), -1);
-    CHECK_EQ(n, 1);
+    CHECK(sscanf("1", "%*d%n", &n) == -1 && n == 1);
 }
 
 /* The double scanner is strtod's twin: the same bits, or a failure where
@@ -170,32 +172,24 @@ static void doubles(void) {
         CHECK_EQ(sscanf(texts[i], "%lf", &d), 1);
         CHECK_HEX(bits_of(d), bits_of(strtod(texts[i], NULL)));
     }
+    /* Failures, widths and the exact INF and NaN forms. */
+    static const struct { const char *text, *format; int result; unsigned long long bits; } cases[] = {
+        {"-", "%lf", -1, 0},          {".", "%lf", -1, 0},          {"1e5", "%2lf", 0, 0},
+        {"INF -INF", "%lf", 1, 0x7FF0000000000000ULL},              {"-INF", "%lf", 1, 0xFFF0000000000000ULL},
+        {"-NaN", "%lf", 1, 0xFFF8000000000000ULL},                  {"inf", "%lf", 0, 0},
+        {"INF", "%2lf", 0, 0},        {"1.2345", "%3lf", 1, 0x3FF3333333333333ULL},
+    };
+    for (unsigned i = 0; i < sizeof cases / sizeof cases[0]; ++i) {
+        double d = 0;
+        CHECK_EQ(sscanf(cases[i].text, cases[i].format, &d), cases[i].result);
+        if (cases[i].result == 1) CHECK_HEX(bits_of(d), cases[i].bits);
+    }
     double d = 3;
     int n = -1;
     CHECK_EQ(sscanf("12e", "%lf%n", &d, &n), -1); /* the e is consumed: input ended */
     CHECK(d == 3 && n == 3);
-    CHECK_EQ(sscanf("-", "%lf", &d), -1);
-    CHECK_EQ(sscanf(".", "%lf", &d), -1);
-    CHECK_EQ(sscanf("1.2345", "%3lf%n", &d, &n), 1);
-    CHECK(d == strtod("1.2", NULL) && n == 3);
-    CHECK_EQ(sscanf("1e5", "%2lf", &d), 0);
-    CHECK_EQ(sscanf("INF -INF", "%lf", &d), 1);
-    CHECK_HEX(bits_of(d), 0x7FF0000000000000ULL);
-    CHECK_EQ(sscanf("-INF", "%lf", &d), 1);
-    CHECK_HEX(bits_of(d), 0xFFF0000000000000ULL);
-    CHECK_EQ(sscanf("-NaN", "%lf", &d), 1);
-    CHECK_HEX(bits_of(d), 0xFFF8000000000000ULL);
-    CHECK_EQ(sscanf("inf", "%lf", &d), 0);
-    CHECK_EQ(sscanf("INX", "%lf%n", &d, &n), 0);
+    CHECK_EQ(sscanf("INX", "%lf%n", &d, &n), 0); /* a wrong letter stays in hand */
     CHECK_EQ(n, 2);
-    CHECK_EQ(sscanf("INF", "%2lf", &d), 0);
-    errno = 0;
-    CHECK_EQ(sscanf("1e400", "%lf", &d), 1);
-    CHECK(bits_of(d) == 0x7FF0000000000000ULL && errno == ERANGE);
-    errno = 0;
-    CHECK_EQ(sscanf("-1e5000", "%lf", &d), 1);
-    CHECK(bits_of(d) == 0xFFF0000000000000ULL && errno == ERANGE);
-
     t_section("stored widths");
     unsigned char area[20];
     memset(area, 0xAA, sizeof area);
