@@ -8,6 +8,7 @@
 #pragma once
 
 #include "clib/ctype/table.h"
+#include "include/errno.h"
 #include "stdio/x96/x96.h"
 
 #include <cstdint>
@@ -91,9 +92,45 @@ template <class Cursor> void read_number(Cursor &in, Reading &r) {
     }
 }
 
+// x times 10 to the power, through the powers kept once made.
+void multiply_by_ten_to(std::uint32_t *x, int power);
+
+inline constexpr int lowest_step = -4930; // a power that stays in range
+inline constexpr int highest_power = 4931;
+
+// Two steps below the lowest power, so that the power itself stays in range.
+inline void scale(Reading &r) {
+    _normal96(r.mantissa);
+    if (r.exponent < lowest_step) {
+        multiply_by_ten_to(r.mantissa, r.exponent - lowest_step);
+        r.exponent = lowest_step;
+    }
+    if (r.exponent > highest_power && (r.mantissa[1] | r.mantissa[2]) != 0) r.overflow = true;
+    if (!r.overflow) multiply_by_ten_to(r.mantissa, r.exponent);
+}
+
 // Scales and rounds a reading to the bits of a double with the given sign
-// (0 or 0x80000000): infinity with ERANGE above the range, +0.0 below the
-// smallest normal.
-std::uint64_t to_double_bits(Reading &r, std::uint32_t sign);
+// (0 or 0x80000000): the 64-bit significand to 52 bits behind the leading
+// one, to nearest with ties to even. Infinity with ERANGE above the range;
+// +0.0 below the smallest normal, so no denormals and no negative zero.
+inline std::uint64_t to_double_bits(Reading &r, std::uint32_t sign) {
+    scale(r);
+    int e = x96f::exponent_field(r.mantissa[0]) - x96f::kBias;
+    if (e >= 1024 || r.overflow) {
+        errno = ERANGE;
+        return static_cast<std::uint64_t>(sign | 0x7FF00000u) << 32;
+    }
+    if (e <= -1023) return 0;
+    std::uint32_t w1 = r.mantissa[1], w2 = r.mantissa[2];
+    std::uint32_t high = (w1 >> 11) & 0xFFFFF;
+    std::uint32_t low = (w1 << 21) | (w2 >> 11);
+    if ((w2 & 0x400) && (w2 & 0xBFF)) _add64(&high, &low, 1);
+    if (high & 0x100000) {
+        high &= ~0x100000u;
+        ++e;
+    }
+    high |= (static_cast<std::uint32_t>(e + 1023) << 20) | sign;
+    return (static_cast<std::uint64_t>(high) << 32) | low;
+}
 
 } // namespace orv::decimal
