@@ -99,5 +99,20 @@ _ORV_END
 
 #include "_orv_printf.h"
 
+/* What the input engine reads from: get(context) answers the next byte as
+   an unsigned value, or -1 at the end. */
+struct _orv_source {
+    void *context;
+    int (*get)(void *context);
+};
+
+_ORV_BEGIN
+int _scanf_(struct _orv_source *source, int (*unget)(int character, struct _orv_source *source),
+            const char *format, const void *arguments);
+int scanf(const char *format, ...);
+int fscanf(FILE *stream, const char *format, ...);
+int sscanf(const char *string, const char *format, ...);
+_ORV_END
+
 
 #endif

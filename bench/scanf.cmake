@@ -1,0 +1,1 @@
+orv_add_bench(scanf scanf.c ROUNDS 3)

@@ -1,0 +1,35 @@
+#include "stdio/x96/decimal_text.h"
+
+namespace orv::decimal {
+namespace {
+
+using std::uint32_t;
+
+// The powers ordinary texts need are kept once made: the same words
+// _cmath_xtoi gives, without its squarings on every call.
+constexpr int kept_powers = 48;
+uint32_t kept[2 * kept_powers + 1][3];
+bool made[2 * kept_powers + 1];
+
+const uint32_t *ten_to(int power, uint32_t *scratch) {
+    if (power < -kept_powers || power > kept_powers) {
+        _cmath_xtoi(x96f::kTen.word, power, scratch);
+        return scratch;
+    }
+    uint32_t *slot = kept[power + kept_powers];
+    // Two threads may both make a power; they write the same words.
+    if (!__atomic_load_n(&made[power + kept_powers], __ATOMIC_ACQUIRE)) {
+        _cmath_xtoi(x96f::kTen.word, power, slot);
+        __atomic_store_n(&made[power + kept_powers], true, __ATOMIC_RELEASE);
+    }
+    return slot;
+}
+
+} // namespace
+
+void multiply_by_ten_to(uint32_t *x, int power) {
+    uint32_t scratch[3];
+    _mulx(x, ten_to(power, scratch), x);
+}
+
+} // namespace orv::decimal
