@@ -26,6 +26,11 @@ quad _orvane_polyN(quad x, quad *c, int n);
 /* x^n + c[0] x^(n-1) + ... + c[n-1] */
 quad _orvane_polyD(quad x, quad *c, int n);
 
+quad expl(quad x);
+quad logl(quad x);
+quad log10l(quad x);
+quad powl(quad x, quad y);
+
 _ORV_END
 
 #endif
