@@ -31,6 +31,17 @@ quad logl(quad x);
 quad log10l(quad x);
 quad powl(quad x, quad y);
 
+quad sinl(quad x);
+quad cosl(quad x);
+quad tanl(quad x);
+quad asinl(quad x);
+quad acosl(quad x);
+quad atanl(quad x);
+quad atan2l(quad y, quad x);
+quad sinhl(quad x);
+quad coshl(quad x);
+quad tanhl(quad x);
+
 _ORV_END
 
 #endif

@@ -33,6 +33,16 @@ static quad_pair quad_call(int fn, quad_pair x, quad_pair y) {
     case Q_LOGL: r.re = logl(x.re); break;
     case Q_LOG10L: r.re = log10l(x.re); break;
     case Q_POWL: r.re = powl(x.re, y.re); break;
+    case Q_SINL: r.re = sinl(x.re); break;
+    case Q_COSL: r.re = cosl(x.re); break;
+    case Q_TANL: r.re = tanl(x.re); break;
+    case Q_ASINL: r.re = asinl(x.re); break;
+    case Q_ACOSL: r.re = acosl(x.re); break;
+    case Q_ATANL: r.re = atanl(x.re); break;
+    case Q_ATAN2L: r.re = atan2l(x.re, y.re); break;
+    case Q_SINHL: r.re = sinhl(x.re); break;
+    case Q_COSHL: r.re = coshl(x.re); break;
+    case Q_TANHL: r.re = tanhl(x.re); break;
     default: r.re.hi = r.re.lo = 0; break;
     }
     return r;

@@ -38,6 +38,27 @@ static const struct kase cases[] = {
     {Q_LOG10L, {1e-280, 1e300, 1}, "1e-280..1e300, log-uniform", BOTH},
     {Q_POWL, {0.5, 2, 0, -4, 4}, "x [0.5, 2], y [-4, 4]", BOTH},
     {Q_POWL, {0.01, 100, 1, -40, 40}, "x 0.01..100 log-uniform, y [-40, 40]", BOTH},
+    /* Near a zero of sine or cosine the absolute error of the reduction
+       (the stored pi is about 1e-31 from pi) grows without bound relative
+       to the result: the wide ranges go to the tool only. */
+    {Q_SINL, {-1.5, 1.5}, "[-1.5, 1.5]", BOTH},
+    {Q_SINL, {-3, 3}, "[-3, 3]", BOTH},
+    {Q_SINL, {-1000, 1000}, "[-1000, 1000]", BINARY},
+    {Q_COSL, {-1.4, 1.4}, "[-1.4, 1.4]", BOTH},
+    {Q_COSL, {-1000, 1000}, "[-1000, 1000]", BINARY},
+    {Q_TANL, {-1.5, 1.5}, "[-1.5, 1.5]", BOTH},
+    {Q_ASINL, {-1, 1}, "[-1, 1]", BOTH},
+    {Q_ACOSL, {-1, 1}, "[-1, 1]", BOTH},
+    {Q_ATANL, {-10, 10}, "[-10, 10]", BOTH},
+    {Q_ATANL, {1e-10, 1e10, 1}, "1e-10..1e10, log-uniform", BOTH},
+    /* One Newton step on the tangent: the error grows with |y/x|. */
+    {Q_ATAN2L, {-10, 10, 0, 1, 10}, "y [-10, 10], x [1, 10]", BOTH},
+    {Q_ATAN2L, {-10, 10, 0, -10, 10}, "[-10, 10] x [-10, 10]", BINARY},
+    {Q_SINHL, {-1, 1}, "[-1, 1]", BOTH},
+    {Q_SINHL, {-650, 650}, "[-650, 650]", BOTH},
+    {Q_COSHL, {-650, 650}, "[-650, 650]", BOTH},
+    {Q_TANHL, {-1, 1}, "[-1, 1]", BOTH},
+    {Q_TANHL, {-10, 10}, "[-10, 10]", BOTH},
 };
 #define NCASES (sizeof cases / sizeof cases[0])
 
@@ -104,6 +125,16 @@ static int reference(int fn, const double x[4], const double y[4], double out[6]
     case Q_LOGL: mpfr_log(r, xr, MPFR_RNDN); break;
     case Q_LOG10L: mpfr_log10(r, xr, MPFR_RNDN); break;
     case Q_POWL: mpfr_pow(r, xr, yr, MPFR_RNDN); break;
+    case Q_SINL: mpfr_sin(r, xr, MPFR_RNDN); break;
+    case Q_COSL: mpfr_cos(r, xr, MPFR_RNDN); break;
+    case Q_TANL: mpfr_tan(r, xr, MPFR_RNDN); break;
+    case Q_ASINL: mpfr_asin(r, xr, MPFR_RNDN); break;
+    case Q_ACOSL: mpfr_acos(r, xr, MPFR_RNDN); break;
+    case Q_ATANL: mpfr_atan(r, xr, MPFR_RNDN); break;
+    case Q_ATAN2L: mpfr_atan2(r, xr, yr, MPFR_RNDN); break; /* xr is y, yr is x */
+    case Q_SINHL: mpfr_sinh(r, xr, MPFR_RNDN); break;
+    case Q_COSHL: mpfr_cosh(r, xr, MPFR_RNDN); break;
+    case Q_TANHL: mpfr_tanh(r, xr, MPFR_RNDN); break;
     }
     mpfr_prec_round(r, PREC, MPFR_RNDN);
     mpfr_prec_round(i, PREC, MPFR_RNDN);

@@ -27,6 +27,8 @@ inline constexpr double kInf = std::bit_cast<double>(0x7FF0000000000000ull);
 
 inline quad negate(quad x) { return make(-x.hi, -x.lo); }
 
+inline double absd(double x) { return __builtin_fabs(x); }
+
 // The polynomial evaluators take their coefficients through a plain
 // pointer; the tables stay read-only.
 inline quad poly_n(quad x, const quad *c, int n) { return _orvane_polyN(x, const_cast<quad *>(c), n); }

@@ -17,6 +17,22 @@ static const struct { const char *range; double bound; } bounds[] = {
     {"powl x [0.5, 2], y [-4, 4]", 12},
     /* the error of y ln x, magnified by its size */
     {"powl x 0.01..100 log-uniform, y [-40, 40]", 400},
+    {"sinl [-1.5, 1.5]", 8},
+    /* near pi the error of the stored pi counts against a small result */
+    {"sinl [-3, 3]", 128},
+    {"cosl [-1.4, 1.4]", 10},
+    {"tanl [-1.5, 1.5]", 24},
+    {"asinl [-1, 1]", 16},
+    {"acosl [-1, 1]", 16},
+    {"atanl [-10, 10]", 8},
+    {"atanl 1e-10..1e10, log-uniform", 8},
+    {"atan2l y [-10, 10], x [1, 10]", 12},
+    /* below 0.05 the series, above it e^x - e^-x, which cancels */
+    {"sinhl [-1, 1]", 24},
+    {"sinhl [-650, 650]", 2000},
+    {"coshl [-650, 650]", 2000},
+    {"tanhl [-1, 1]", 6},
+    {"tanhl [-10, 10]", 4},
 };
 
 static int equal(const char *a, const char *b) {
