@@ -22,13 +22,22 @@ static inline int quad_complex(int fn) { return fn >= Q_CQMUL; }
 
 #ifndef QUAD_FUNCTIONS_NAMES_ONLY
 #include <math.h>
+#include <qcomplex.h>
 
-typedef struct { quad re, im; } quad_pair;
+typedef qcomplex quad_pair;
 
 static quad_pair quad_call(int fn, quad_pair x, quad_pair y) {
     quad_pair r;
     r.im.hi = r.im.lo = 0;
     switch (fn) {
+    case Q_CQMUL: return _orvane_cqmul(x, y);
+    case Q_CQDIV: return _orvane_cqdiv(x, y);
+    case Q_CPOWL: return _orvane_cpowl(x, y);
+    case Q_CSQRTL: return CSQRTL(x);
+    case Q_CEXPL: return CEXPL(x);
+    case Q_CLOGL: return CLOGL(x);
+    case Q_CSINL: return CSINL(x);
+    case Q_CCOSL: return CCOSL(x);
     case Q_EXPL: r.re = expl(x.re); break;
     case Q_LOGL: r.re = logl(x.re); break;
     case Q_LOG10L: r.re = log10l(x.re); break;
@@ -42,8 +51,7 @@ static quad_pair quad_call(int fn, quad_pair x, quad_pair y) {
     case Q_ATAN2L: r.re = atan2l(x.re, y.re); break;
     case Q_SINHL: r.re = sinhl(x.re); break;
     case Q_COSHL: r.re = coshl(x.re); break;
-    case Q_TANHL: r.re = tanhl(x.re); break;
-    default: r.re.hi = r.re.lo = 0; break;
+    default: r.re = tanhl(x.re); break;
     }
     return r;
 }

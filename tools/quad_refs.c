@@ -24,9 +24,10 @@
 #include "quad_functions.h"
 
 /* Arguments: x uniform in [lo, hi] (log-uniform when `log` is set), y in
-   [ylo, yhi]; for complex functions both parts of x, and of y, come from
-   the same range. */
-struct range { double lo, hi; int log; double ylo, yhi; };
+   [ylo, yhi]. For complex functions both parts of y come from its range,
+   and so do both parts of x unless the imaginary part has a range of its
+   own, [ilo, ihi]. */
+struct range { double lo, hi; int log; double ylo, yhi, ilo, ihi; };
 enum { HEADER = 1, BINARY = 2, BOTH = 3 };
 struct kase { int fn; struct range r; const char *text; int where; };
 
@@ -59,6 +60,17 @@ static const struct kase cases[] = {
     {Q_COSHL, {-650, 650}, "[-650, 650]", BOTH},
     {Q_TANHL, {-1, 1}, "[-1, 1]", BOTH},
     {Q_TANHL, {-10, 10}, "[-10, 10]", BOTH},
+    {Q_CQMUL, {-10, 10, 0, -10, 10}, "[-10, 10]^2 x [-10, 10]^2", BOTH},
+    {Q_CQDIV, {-10, 10, 0, -10, 10}, "[-10, 10]^2 x [-10, 10]^2", BOTH},
+    /* The argument of x by atan2l: its error grows with |im/re|. */
+    {Q_CPOWL, {0.5, 3, 0, -3, 3, -3, 3}, "x [0.5, 3] x [-3, 3], y [-3, 3]^2", BOTH},
+    {Q_CPOWL, {-3, 3, 0, -3, 3}, "x [-3, 3]^2, y [-3, 3]^2", BINARY},
+    {Q_CSQRTL, {-10, 10}, "[-10, 10]^2", BOTH},
+    {Q_CEXPL, {-10, 10}, "[-10, 10]^2", BOTH},
+    {Q_CLOGL, {0.5, 10, 0, 0, 0, -10, 10}, "[0.5, 10] x [-10, 10]", BOTH},
+    {Q_CLOGL, {-10, 10}, "[-10, 10]^2", BINARY},
+    {Q_CSINL, {-3, 3}, "[-3, 3]^2", BOTH},
+    {Q_CCOSL, {-3, 3}, "[-3, 3]^2", BOTH},
 };
 #define NCASES (sizeof cases / sizeof cases[0])
 
@@ -135,6 +147,81 @@ static int reference(int fn, const double x[4], const double y[4], double out[6]
     case Q_SINHL: mpfr_sinh(r, xr, MPFR_RNDN); break;
     case Q_COSHL: mpfr_cosh(r, xr, MPFR_RNDN); break;
     case Q_TANHL: mpfr_tanh(r, xr, MPFR_RNDN); break;
+    case Q_CQMUL:
+        mpfr_mul(r, xr, yr, MPFR_RNDN);
+        mpfr_mul(t, xi, yi, MPFR_RNDN);
+        mpfr_sub(r, r, t, MPFR_RNDN);
+        mpfr_mul(i, xr, yi, MPFR_RNDN);
+        mpfr_mul(t, xi, yr, MPFR_RNDN);
+        mpfr_add(i, i, t, MPFR_RNDN);
+        break;
+    case Q_CQDIV:
+        mpfr_sqr(u, yr, MPFR_RNDN);
+        mpfr_sqr(t, yi, MPFR_RNDN);
+        mpfr_add(u, u, t, MPFR_RNDN);
+        mpfr_mul(r, xr, yr, MPFR_RNDN);
+        mpfr_mul(t, xi, yi, MPFR_RNDN);
+        mpfr_add(r, r, t, MPFR_RNDN);
+        mpfr_div(r, r, u, MPFR_RNDN);
+        mpfr_mul(i, xi, yr, MPFR_RNDN);
+        mpfr_mul(t, xr, yi, MPFR_RNDN);
+        mpfr_sub(i, i, t, MPFR_RNDN);
+        mpfr_div(i, i, u, MPFR_RNDN);
+        break;
+    case Q_CPOWL: /* e^(y log x): A + iB = y (ln|x| + i arg x) */
+        mpfr_hypot(t, xr, xi, MPFR_RNDN);
+        mpfr_log(t, t, MPFR_RNDN);
+        mpfr_atan2(u, xi, xr, MPFR_RNDN);
+        mpfr_mul(r, t, yr, MPFR_RNDN);
+        mpfr_mul(i, u, yi, MPFR_RNDN);
+        mpfr_sub(r, r, i, MPFR_RNDN);  /* A */
+        mpfr_mul(t, t, yi, MPFR_RNDN);
+        mpfr_mul(u, u, yr, MPFR_RNDN);
+        mpfr_add(u, t, u, MPFR_RNDN);  /* B */
+        mpfr_exp(t, r, MPFR_RNDN);
+        mpfr_sin_cos(i, r, u, MPFR_RNDN);
+        mpfr_mul(r, r, t, MPFR_RNDN);
+        mpfr_mul(i, i, t, MPFR_RNDN);
+        break;
+    case Q_CSQRTL: /* the principal root, without cancellation */
+        mpfr_hypot(t, xr, xi, MPFR_RNDN);
+        if (mpfr_sgn(xr) >= 0) mpfr_add(t, t, xr, MPFR_RNDN);
+        else mpfr_sub(t, t, xr, MPFR_RNDN);
+        mpfr_div_2ui(t, t, 1, MPFR_RNDN);
+        mpfr_sqrt(t, t, MPFR_RNDN);          /* w */
+        mpfr_abs(u, xi, MPFR_RNDN);
+        mpfr_div(u, u, t, MPFR_RNDN);
+        mpfr_div_2ui(u, u, 1, MPFR_RNDN);    /* |b|/(2w) */
+        if (mpfr_sgn(xr) >= 0) mpfr_swap(t, u);
+        mpfr_set(r, u, MPFR_RNDN);
+        mpfr_set(i, t, MPFR_RNDN);
+        if (mpfr_sgn(xi) < 0) mpfr_neg(i, i, MPFR_RNDN);
+        break;
+    case Q_CEXPL:
+        mpfr_exp(t, xr, MPFR_RNDN);
+        mpfr_sin_cos(i, r, xi, MPFR_RNDN);
+        mpfr_mul(r, r, t, MPFR_RNDN);
+        mpfr_mul(i, i, t, MPFR_RNDN);
+        break;
+    case Q_CLOGL:
+        mpfr_hypot(r, xr, xi, MPFR_RNDN);
+        mpfr_log(r, r, MPFR_RNDN);
+        mpfr_atan2(i, xi, xr, MPFR_RNDN);
+        break;
+    case Q_CSINL: /* sin x cosh y + i cos x sinh y */
+    case Q_CCOSL: /* cos x cosh y - i sin x sinh y */
+        mpfr_sin_cos(t, u, xr, MPFR_RNDN);
+        mpfr_cosh(r, xi, MPFR_RNDN);
+        mpfr_sinh(i, xi, MPFR_RNDN);
+        if (fn == Q_CSINL) {
+            mpfr_mul(r, r, t, MPFR_RNDN);
+            mpfr_mul(i, i, u, MPFR_RNDN);
+        } else {
+            mpfr_mul(r, r, u, MPFR_RNDN);
+            mpfr_mul(i, i, t, MPFR_RNDN);
+            mpfr_neg(i, i, MPFR_RNDN);
+        }
+        break;
     }
     mpfr_prec_round(r, PREC, MPFR_RNDN);
     mpfr_prec_round(i, PREC, MPFR_RNDN);
@@ -173,7 +260,8 @@ int main(int argc, char **argv) {
             double x[4] = {0}, y[4] = {0}, ref[6];
             int parts = quad_complex(k->fn) ? 2 : 1;
             for (int p = 0; p < parts; ++p) {
-                draw_quad(draw(k->r.lo, k->r.hi, k->r.log), x + 2 * p);
+                int own = p == 1 && k->r.ilo < k->r.ihi;
+                draw_quad(own ? draw(k->r.ilo, k->r.ihi, 0) : draw(k->r.lo, k->r.hi, k->r.log), x + 2 * p);
                 if (quad_binary(k->fn)) draw_quad(draw(k->r.ylo, k->r.yhi, 0), y + 2 * p);
             }
             if (!reference(k->fn, x, y, ref)) continue;

@@ -1,8 +1,9 @@
-/* Values of the quad functions on ordinary arguments against MPFR
-   references to 212 bits (quad_ref_values.h, made at build time by
-   tools/quad_refs.c). Each range has a bound in units of 2^-106 of the
-   result: the largest error bench/quad_accuracy measured on 20000
-   arguments of that range (docs/MATH_ACCURACY.md), with some room. */
+/* Values of the quad functions, real and complex, on ordinary arguments
+   against MPFR references to 212 bits (quad_ref_values.h, made at build
+   time by tools/quad_refs.c). Each range has a bound in units of 2^-106 of
+   the result (of its modulus for complex results): the largest error that
+   bench/quad_accuracy measured on 20000 arguments of that range
+   (docs/MATH_ACCURACY.md), with some room. */
 #include "harness.h"
 #include "quad_ref_values.h"
 #include "tools/quad_functions.h"
@@ -33,6 +34,15 @@ static const struct { const char *range; double bound; } bounds[] = {
     {"coshl [-650, 650]", 2000},
     {"tanhl [-1, 1]", 6},
     {"tanhl [-10, 10]", 4},
+    {"_orvane_cqmul [-10, 10]^2 x [-10, 10]^2", 4},
+    {"_orvane_cqdiv [-10, 10]^2 x [-10, 10]^2", 6},
+    {"_orvane_cpowl x [0.5, 3] x [-3, 3], y [-3, 3]^2", 64},
+    {"CSQRTL [-10, 10]^2", 6},
+    /* sine and cosine of the imaginary part, reduced by the stored pi */
+    {"CEXPL [-10, 10]^2", 64},
+    {"CLOGL [0.5, 10] x [-10, 10]", 16},
+    {"CSINL [-3, 3]^2", 128},
+    {"CCOSL [-3, 3]^2", 512},
 };
 
 static int equal(const char *a, const char *b) {
