@@ -7,45 +7,32 @@
  *
  *   quad_accuracy refs.bin
  */
-#include <fcntl.h>
-#include <io.h>
 #include <stdio.h>
 
 #include "../tools/quad_functions.h"
 
-static int read_all(int fd, void *p, unsigned n) {
-    char *c = p;
-    while (n) {
-        int got = _read(fd, c, n);
-        if (got <= 0) return -1;
-        c += got;
-        n -= (unsigned)got;
-    }
-    return 0;
-}
-
 int main(int argc, char **argv) {
     if (argc < 2) { printf("usage: quad_accuracy refs.bin\n"); return 2; }
-    int fd = _open(argv[1], O_RDONLY | O_BINARY);
-    if (fd < 0) { printf("cannot open the reference file\n"); return 1; }
+    FILE *in = fopen(argv[1], "rb");
+    if (!in) { printf("cannot open the reference file\n"); return 1; }
     printf("| Function and range | Samples | Max | Mean |\n");
     printf("|---|---|---|---|\n");
     for (;;) {
         unsigned head[4];
         char name[64];
-        if (read_all(fd, head, sizeof head) || read_all(fd, name, sizeof name)) break;
+        if (fread(head, sizeof head, 1, in) != 1 || fread(name, sizeof name, 1, in) != 1) break;
         int fn = (int)head[0];
         unsigned count = head[2];
         double worst = 0, sum = 0;
         for (unsigned i = 0; i < count; ++i) {
             double w[14];
-            if (read_all(fd, w, sizeof w)) return 1;
+            if (fread(w, sizeof w, 1, in) != 1) return 1;
             double e = quad_sample_units(fn, w);
             if (e > worst) worst = e;
             sum += e;
         }
         printf("| %s | %u | %.1f | %.2f |\n", name, count, worst, sum / count);
     }
-    _close(fd);
+    fclose(in);
     return 0;
 }
