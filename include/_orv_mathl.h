@@ -26,6 +26,22 @@ quad _orvane_polyN(quad x, quad *c, int n);
 /* x^n + c[0] x^(n-1) + ... + c[n-1] */
 quad _orvane_polyD(quad x, quad *c, int n);
 
+quad expl(quad x);
+quad logl(quad x);
+quad log10l(quad x);
+quad powl(quad x, quad y);
+
+quad sinl(quad x);
+quad cosl(quad x);
+quad tanl(quad x);
+quad asinl(quad x);
+quad acosl(quad x);
+quad atanl(quad x);
+quad atan2l(quad y, quad x);
+quad sinhl(quad x);
+quad coshl(quad x);
+quad tanhl(quad x);
+
 _ORV_END
 
 #endif
