@@ -90,6 +90,22 @@ static void powers(void) {
     x_sub(&err, &ref);
     CHECK(x_is_zero(&err));
 
+    /* The formatting of quads scales by powers of ten: every one a pair
+       can hold must come out exact. */
+    exact ten;
+    x_zero(&ten);
+    x_add_prod(&ten, 1, 1, 0);
+    int inexact = -1;
+    for (int k = 1; k <= 46; ++k) {
+        exact t = ten;
+        for (int i = 1; i < 10; ++i) x_add(&ten, &t);
+        x_zero(&err);
+        x_add_q(&err, qpowi(Q(10, 0), k), 0);
+        x_sub(&err, &ten);
+        if (!x_is_zero(&err) && inexact < 0) inexact = k;
+    }
+    CHECK_EQ(inexact, -1);
+
     t_section("qpowi negative and zero powers");
     r = qpowi(Q(7.5, 1e-16), 0);
     CHECK(r.hi == 1 && r.lo == 0);
