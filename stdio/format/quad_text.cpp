@@ -29,8 +29,10 @@ struct Digits {
 };
 
 // Digits by subtraction and multiplication in quad arithmetic; the high
-// double can round over the true value, so digits come out signed and are
-// corrected from the end.
+// double can round over the true value, so digits come out signed, or as
+// 10 when what lies below the high double does not show in the digits
+// made. They are brought into 0..9 from the end; a carry out of the first
+// digit leaves 1 and zeros, the next power of ten.
 void make_digits(quad v, Digits &out) {
     int e = truncate(floor(log10(fabs(v.hi))));
     v = qdiv(v, qpowi(quad{10.0, 0.0}, e));
@@ -46,11 +48,19 @@ void make_digits(quad v, Digits &out) {
         out.d[i] = d;
         v = qmuld(qsubd(v, d), 10.0);
     }
-    for (int i = made_digits - 1; i >= 1; --i)
+    for (int i = made_digits - 1; i >= 1; --i) {
         if (out.d[i] < 0) {
             out.d[i] += 10;
             out.d[i - 1] -= 1;
+        } else if (out.d[i] > 9) {
+            out.d[i] -= 10;
+            out.d[i - 1] += 1;
         }
+    }
+    if (out.d[0] > 9) {
+        out.d[0] = 1;
+        ++e;
+    }
     out.e = e;
 }
 
