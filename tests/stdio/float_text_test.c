@@ -44,6 +44,10 @@ int main(void) {
          q(-0.0, 0), q(0.0, 0));
     SAME("100000|3.14159|5e+00|++INF| -INF|NaN", "%llg|%llg|%.0llg|%+llf|% llf|%llf", q(100000.0, 0),
          q(3.14159265, 0), q(5.0, 0), q(inf, 0), q(-inf, 0), q(nan, 0));
+    /* Specials pad with blanks under the 0 flag, after their sign; the
+       quad digits round half up, with no taking back at 10. */
+    SAME("      -INF| ++INF|NaN  |1e+01", "%010llf|%+06llf|%-5lle|%.0lle", q(-inf, 0), q(inf, 0), q(nan, 0),
+         q(9.5, 0));
     /* 2/3 to 40 places: 31 digits from the value, then zeros. */
     SAME("6.6666666666666666666666666666660000000000e-01", "%.40lle", qdivd(q(2.0, 0), 3.0));
     /* Below a power of ten by less than the digits show: the high double
