@@ -149,21 +149,36 @@ void quad_layout(format_spec *spec, const quad_decimal &record, int before, Text
 }
 
 // The sign comes first, for special values too.
-int quad_text(format_spec *spec, _orv_sink *sink, const quad_decimal &record, bool exponential) {
+int quad_text(format_spec *spec, _orv_sink *sink, const quad_decimal *record, bool exponential) {
     TextArea out;
-    put_sign(out, spec, record.negative);
-    if (record.special) {
-        out.put(record.digits);
+    put_sign(out, spec, record->negative);
+    if (record->special) {
+        out.put(record->digits);
         spec->numeric = false;
         spec->pad_blank = true;
     } else {
-        quad_layout(spec, record, exponential ? 1 : record.exponent, out);
-        if (exponential) put_exponent(out, spec, record.exponent - 1);
+        quad_layout(spec, *record, exponential ? 1 : record->exponent, out);
+        if (exponential) put_exponent(out, spec, record->exponent - 1);
     }
     return __print_field(spec, sink, out.finish(), text_area);
 }
 
 } // namespace
+} // namespace orv::fmt
+
+extern "C" {
+
+ORV_HIDDEN int __quad_text_f(format_spec *spec, _orv_sink *sink, const quad_decimal *record) {
+    return orv::fmt::quad_text(spec, sink, record, false);
+}
+
+ORV_HIDDEN int __quad_text_e(format_spec *spec, _orv_sink *sink, const quad_decimal *record) {
+    return orv::fmt::quad_text(spec, sink, record, true);
+}
+
+} // extern "C"
+
+namespace orv::fmt {
 
 int print_quad(format_spec *spec, _orv_sink *sink, double high, double low) {
     quad_decimal record;
@@ -171,21 +186,21 @@ int print_quad(format_spec *spec, _orv_sink *sink, double high, double low) {
     if (spec->precision == -1) spec->precision = 6;
     if (style == 'f') {
         __quad_digits(high, low, &record, spec->precision, true);
-        return quad_text(spec, sink, record, false);
+        return __quad_text_f(spec, sink, &record);
     }
     if (style == 'e') {
         __quad_digits(high, low, &record, spec->precision + 1, false);
-        return quad_text(spec, sink, record, true);
+        return __quad_text_e(spec, sink, &record);
     }
     int p = spec->precision;
     __quad_digits(high, low, &record, p, false);
     int x = record.exponent - 1;
     if (!record.special && x >= -4 && x < p) {
         spec->precision = p - x - 1;
-        return quad_text(spec, sink, record, false);
+        return __quad_text_f(spec, sink, &record);
     }
     spec->precision = p - 1;
-    return quad_text(spec, sink, record, true);
+    return __quad_text_e(spec, sink, &record);
 }
 
 } // namespace orv::fmt
