@@ -1,7 +1,9 @@
 /* The quad primitives against the host's __float128 (libquadmath), and
    floating-point formatting against the host's C library, from one source:
    built against liborv it uses the quad primitives, built against the host
-   the compiler's __float128. */
+   the compiler's __float128. The first four cases add each result into a
+   running sum, so they time one chained addition with the named operation
+   beside it; the _chain cases time the named operation alone, chained. */
 #include <stdio.h>
 
 #include "bench.h"
@@ -28,7 +30,7 @@ static double lead(real a) { return (double)a; }
 #endif
 
 #define N 1024
-static real xs[N], ys[N];
+static real xs[N], ys[N], zs[N];
 
 static void primitives(void) {
     unsigned seed = 7;
@@ -37,6 +39,7 @@ static void primitives(void) {
         xs[i] = divide(make(1.0 + (seed >> 8)), make(3.0));
         seed = seed * 1664525u + 1013904223u;
         ys[i] = divide(make(1.0 + (seed >> 12)), make(7.0));
+        zs[i] = divide(make(8388608.0 + (seed >> 8)), make(12582912.0));  /* [2/3, 4/3) */
     }
     real acc = make(0);
     double t = bench_now();
@@ -56,6 +59,29 @@ static void primitives(void) {
         for (int i = 0; i < N; ++i) acc = add(acc, root(xs[i]));
     bench_report("sqrtl", bench_now() - t);
     BENCH_KEEP(lead(acc));
+
+    /* Each result the next operand: the latency of one operation. A pass
+       starts again from 1, so that products stay far from the range's
+       ends. */
+    t = bench_now();
+    for (int r = 0; r < 1000; ++r)
+        for (int i = 0; i < N; ++i) acc = add(acc, xs[i]);
+    bench_report("qadd_chain", bench_now() - t);
+    BENCH_KEEP(lead(acc));
+    t = bench_now();
+    for (int r = 0; r < 1000; ++r) {
+        acc = make(1);
+        for (int i = 0; i < N; ++i) acc = mul(acc, zs[i]);
+        BENCH_KEEP(lead(acc));
+    }
+    bench_report("qmul_chain", bench_now() - t);
+    t = bench_now();
+    for (int r = 0; r < 300; ++r) {
+        acc = make(1);
+        for (int i = 0; i < N; ++i) acc = divide(acc, zs[i]);
+        BENCH_KEEP(lead(acc));
+    }
+    bench_report("qdiv_chain", bench_now() - t);
 }
 
 static int (*volatile p_sprintf)(char *, const char *, ...) = sprintf;

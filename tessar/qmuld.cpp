@@ -5,5 +5,5 @@
 using namespace orv;
 
 extern "C" ORV_EXPORT quad qmuld(quad a, double d) {
-    return dd::mul_d(a, d);
+    return dd::mul(a, dd::make(d, 0.0));
 }

@@ -6,5 +6,5 @@ using namespace orv;
 
 extern "C" ORV_EXPORT quad qmuli(quad a, int n) {
     // Every int is exact as a double.
-    return dd::mul_d(a, static_cast<double>(n));
+    return dd::mul(a, dd::make(static_cast<double>(n), 0.0));
 }

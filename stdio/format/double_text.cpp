@@ -56,7 +56,7 @@ extern "C" {
 ORV_HIDDEN void __double_scale(double value, double_decimal *record) {
     record->negative = 0;
     record->exponent = 0;
-    int c = orv::fmt::fp_class(value);
+    int c = __fp_class(value);
     if (c == 1 || c == 6 || c == 9 || c == 5) {
         record->negative = c == 5;
         record->value = value;
@@ -90,7 +90,7 @@ ORV_HIDDEN void __double_scale(double value, double_decimal *record) {
 // Half up at `digits` places behind the first digit; a sum landing exactly
 // on 10 takes its addend back.
 ORV_HIDDEN void __double_round(double_decimal *record, int digits) {
-    int c = orv::fmt::fp_class(record->value);
+    int c = __fp_class(record->value);
     if (!(c == 3 || c == 4 || c == 7 || c == 8) || digits < 0) return;
     int k = digits > 16 ? 16 : digits;
     double sum = stored(record->value + rounding[k]);
@@ -105,7 +105,7 @@ ORV_HIDDEN void __double_round(double_decimal *record, int digits) {
 
 // The fixed layout, with exponent + 1 digits before the point.
 ORV_HIDDEN void __double_text(format_spec *spec, const double_decimal *record, TextArea *out) {
-    int c = orv::fmt::fp_class(record->value);
+    int c = __fp_class(record->value);
     if (c == 1 || c == 2 || c == 9) {
         out->put(c == 1 ? "NaN" : record->negative ? "-INF" : "+INF");
         spec->numeric = false;
@@ -151,7 +151,7 @@ int exponential(format_spec *spec, _orv_sink *sink, double_decimal &record) {
     record.exponent = 0;
     TextArea out;
     __double_text(spec, &record, &out);
-    if (fp_is_finite(record.value)) put_exponent(out, spec, exponent);
+    if (__fp_is_finite(record.value)) put_exponent(out, spec, exponent);
     return __print_field(spec, sink, out.finish(), text_area);
 }
 

@@ -1,8 +1,6 @@
 #include "stdio/format/float_text.h"
 
-namespace orv::fmt {
-
-int fp_class(double x) {
+extern "C" int __fp_class(double x) {
     std::uint64_t bits;
     __builtin_memcpy(&bits, &x, sizeof bits);
     bool negative = bits >> 63;
@@ -15,6 +13,13 @@ int fp_class(double x) {
     }
     return negative ? 3 : 8;
 }
+
+extern "C" bool __fp_is_finite(double x) {
+    int c = __fp_class(x);
+    return c >= 3 && c <= 8;
+}
+
+namespace orv::fmt {
 
 void put_exponent(TextArea &out, const format_spec *spec, int exponent) {
     bool upper = spec->conversion >= 'A' && spec->conversion <= 'Z';

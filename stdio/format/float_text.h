@@ -20,15 +20,15 @@ struct quad_decimal {
     char digits[34];
 };
 
-namespace orv::fmt {
-
+extern "C" {
 // Classes 1 NaN, 2 -inf, 3 -normal, 4 -denormal, 5 -0, 6 +0, 7 +denormal,
 // 8 +normal, 9 +inf.
-int fp_class(double x);
-inline bool fp_is_finite(double x) {
-    int c = fp_class(x);
-    return c >= 3 && c <= 8;
+ORV_HIDDEN int __fp_class(double x);
+// Classes 3 to 8.
+ORV_HIDDEN bool __fp_is_finite(double x);
 }
+
+namespace orv::fmt {
 
 // Builds floating text in a fixed area; never writes past it.
 struct TextArea {

@@ -29,8 +29,10 @@ struct Digits {
 };
 
 // Digits by subtraction and multiplication in quad arithmetic; the high
-// double can round over the true value, so digits come out signed and are
-// corrected from the end.
+// double can round over the true value, so digits come out signed, or as
+// 10 when what lies below the high double does not show in the digits
+// made. They are brought into 0..9 from the end; a carry out of the first
+// digit leaves 1 and zeros, the next power of ten.
 void make_digits(quad v, Digits &out) {
     int e = truncate(floor(log10(fabs(v.hi))));
     v = qdiv(v, qpowi(quad{10.0, 0.0}, e));
@@ -46,11 +48,19 @@ void make_digits(quad v, Digits &out) {
         out.d[i] = d;
         v = qmuld(qsubd(v, d), 10.0);
     }
-    for (int i = made_digits - 1; i >= 1; --i)
+    for (int i = made_digits - 1; i >= 1; --i) {
         if (out.d[i] < 0) {
             out.d[i] += 10;
             out.d[i - 1] -= 1;
+        } else if (out.d[i] > 9) {
+            out.d[i] -= 10;
+            out.d[i - 1] += 1;
         }
+    }
+    if (out.d[0] > 9) {
+        out.d[0] = 1;
+        ++e;
+    }
     out.e = e;
 }
 
@@ -139,21 +149,36 @@ void quad_layout(format_spec *spec, const quad_decimal &record, int before, Text
 }
 
 // The sign comes first, for special values too.
-int quad_text(format_spec *spec, _orv_sink *sink, const quad_decimal &record, bool exponential) {
+int quad_text(format_spec *spec, _orv_sink *sink, const quad_decimal *record, bool exponential) {
     TextArea out;
-    put_sign(out, spec, record.negative);
-    if (record.special) {
-        out.put(record.digits);
+    put_sign(out, spec, record->negative);
+    if (record->special) {
+        out.put(record->digits);
         spec->numeric = false;
         spec->pad_blank = true;
     } else {
-        quad_layout(spec, record, exponential ? 1 : record.exponent, out);
-        if (exponential) put_exponent(out, spec, record.exponent - 1);
+        quad_layout(spec, *record, exponential ? 1 : record->exponent, out);
+        if (exponential) put_exponent(out, spec, record->exponent - 1);
     }
     return __print_field(spec, sink, out.finish(), text_area);
 }
 
 } // namespace
+} // namespace orv::fmt
+
+extern "C" {
+
+ORV_HIDDEN int __quad_text_f(format_spec *spec, _orv_sink *sink, const quad_decimal *record) {
+    return orv::fmt::quad_text(spec, sink, record, false);
+}
+
+ORV_HIDDEN int __quad_text_e(format_spec *spec, _orv_sink *sink, const quad_decimal *record) {
+    return orv::fmt::quad_text(spec, sink, record, true);
+}
+
+} // extern "C"
+
+namespace orv::fmt {
 
 int print_quad(format_spec *spec, _orv_sink *sink, double high, double low) {
     quad_decimal record;
@@ -161,21 +186,21 @@ int print_quad(format_spec *spec, _orv_sink *sink, double high, double low) {
     if (spec->precision == -1) spec->precision = 6;
     if (style == 'f') {
         __quad_digits(high, low, &record, spec->precision, true);
-        return quad_text(spec, sink, record, false);
+        return __quad_text_f(spec, sink, &record);
     }
     if (style == 'e') {
         __quad_digits(high, low, &record, spec->precision + 1, false);
-        return quad_text(spec, sink, record, true);
+        return __quad_text_e(spec, sink, &record);
     }
     int p = spec->precision;
     __quad_digits(high, low, &record, p, false);
     int x = record.exponent - 1;
     if (!record.special && x >= -4 && x < p) {
         spec->precision = p - x - 1;
-        return quad_text(spec, sink, record, false);
+        return __quad_text_f(spec, sink, &record);
     }
     spec->precision = p - 1;
-    return quad_text(spec, sink, record, true);
+    return __quad_text_e(spec, sink, &record);
 }
 
 } // namespace orv::fmt

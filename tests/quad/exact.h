@@ -48,12 +48,17 @@ static inline void x_add_int(exact *x, const unsigned m[4], int shift, int negat
     for (int i = 0; i < X_WORDS; ++i, c >>= 32) x->w[i] = (unsigned)(c += (u64)x->w[i] + t.w[i]);
 }
 
+/* x += y */
+static inline void x_add(exact *x, const exact *y) {
+    u64 c = 0;
+    for (int i = 0; i < X_WORDS; ++i, c >>= 32) x->w[i] = (unsigned)(c += (u64)x->w[i] + y->w[i]);
+}
+
 /* x -= y */
 static inline void x_sub(exact *x, const exact *y) {
     exact t = *y;
     x_negate(&t);
-    u64 c = 0;
-    for (int i = 0; i < X_WORDS; ++i, c >>= 32) x->w[i] = (unsigned)(c += (u64)x->w[i] + t.w[i]);
+    x_add(x, &t);
 }
 
 /* d = (-1)^neg m 2^e with m odd (or 0). */

@@ -44,8 +44,16 @@ int main(void) {
          q(-0.0, 0), q(0.0, 0));
     SAME("100000|3.14159|5e+00|++INF| -INF|NaN", "%llg|%llg|%.0llg|%+llf|% llf|%llf", q(100000.0, 0),
          q(3.14159265, 0), q(5.0, 0), q(inf, 0), q(-inf, 0), q(nan, 0));
+    /* Specials pad with blanks under the 0 flag, after their sign; the
+       quad digits round half up, with no taking back at 10. */
+    SAME("      -INF| ++INF|NaN  |1e+01", "%010llf|%+06llf|%-5lle|%.0lle", q(-inf, 0), q(inf, 0), q(nan, 0),
+         q(9.5, 0));
     /* 2/3 to 40 places: 31 digits from the value, then zeros. */
     SAME("6.6666666666666666666666666666660000000000e-01", "%.40lle", qdivd(q(2.0, 0), 3.0));
+    /* Below a power of ten by less than the digits show: the high double
+       is the power itself, and its digit of 10 carries. */
+    SAME("1.000000e+00|1.000000|1.000000e+10|10", "%lle|%llf|%lle|%llg", q(1.0, -1e-40), q(1.0, -1e-40),
+         q(1e10, -1e-30), q(10.0, -1e-36));
     /* The low part's digits follow the high part's: 123456789012345683968
        and 1234.56789. */
     SAME("-1.2345678901234568520256789000e+20", "%.28lle", q(-123456789012345683968.0, -1234.56789));
