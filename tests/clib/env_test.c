@@ -21,8 +21,9 @@ static int run(const char *line) {
     DWORD code = 0;
     CHECK_EQ(WaitForSingleObject(pi.hProcess, INFINITE), WAIT_OBJECT_0);
     CHECK(GetExitCodeProcess(pi.hProcess, &code));
-    CloseHandle(pi.hThread);
-    CloseHandle(pi.hProcess);
+    CHECK(CloseHandle(pi.hThread));
+    CHECK(CloseHandle(pi.hProcess));
+    CHECK_EQ(WaitForSingleObject(pi.hProcess, INFINITE), WAIT_FAILED); /* closed */
     return (int)code;
 }
 
@@ -113,6 +114,12 @@ static void cache(void) {
     CHECK_EQ(GetEnvironmentVariableA("ORV_NOT_SET", name, sizeof name), 0);
 }
 
+/* The child writes to the standard handles it inherited. */
+static int echo(void *arg) {
+    (void)arg;
+    return system("echo inherited; exit 2");
+}
+
 static void shell(const char *self) {
     t_section("system");
     CHECK_EQ(system(NULL), 1);
@@ -122,6 +129,10 @@ static void shell(const char *self) {
     char got[64];
     int n = t_read_file("sys.txt", got, sizeof got);
     CHECK_MEM(got, (unsigned)(n < 0 ? 0 : n), "a b\n", 4);
+    t_child c;
+    t_run_child(&c, echo, 0, "", 0);
+    CHECK_EQ(c.status, 2);
+    CHECK_MEM(c.out, c.out_len, "inherited\n", 10);
     /* The command line a child gets, split by the platform's rules. */
     join(line, "\"", self, "\"");
     CHECK_EQ(run(strcat(line, quoted_args)), 0);
