@@ -19,11 +19,20 @@ struct Cache {
 
 Cache cache;
 
+// Both blocks or neither, so that a failed first call leaves the cache as
+// it was and the next call tries again.
 bool create() {
-    cache.entries = static_cast<char **>(calloc(growth, sizeof(char *)));
-    cache.value = static_cast<char *>(malloc(growth));
-    if (cache.entries == nullptr || cache.value == nullptr) return false;
+    void *entries = malloc(growth * sizeof(char *));
+    void *value = malloc(growth);
+    if (entries == nullptr || value == nullptr) {
+        free(entries);
+        free(value);
+        return false;
+    }
+    memset(entries, 0, growth * sizeof(char *));
+    cache.entries = static_cast<char **>(entries);
     cache.capacity = growth;
+    cache.value = static_cast<char *>(value);
     cache.value_size = growth;
     return true;
 }

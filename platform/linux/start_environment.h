@@ -1,5 +1,5 @@
-// Variables of the environment the process started with, read from
-// /proc/self/environ: the stand-in has no other view of it.
+// Variables of the environment the process started with, copied out for
+// the stand-in's own use.
 #pragma once
 
 namespace orv::k32 {

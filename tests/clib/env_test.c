@@ -7,7 +7,10 @@
 #include <string.h>
 
 #include "harness.h"
+#include "platform/k32_faults.h"
 #include "platform/kernel32.h"
+
+static unsigned allocs(void) { return k32_call_count(K32_HeapAlloc); }
 
 static int run(const char *line) {
     STARTUPINFOA si;
@@ -18,8 +21,9 @@ static int run(const char *line) {
     DWORD code = 0;
     CHECK_EQ(WaitForSingleObject(pi.hProcess, INFINITE), WAIT_OBJECT_0);
     CHECK(GetExitCodeProcess(pi.hProcess, &code));
-    CloseHandle(pi.hThread);
-    CloseHandle(pi.hProcess);
+    CHECK(CloseHandle(pi.hThread));
+    CHECK(CloseHandle(pi.hProcess));
+    CHECK_EQ(WaitForSingleObject(pi.hProcess, INFINITE), WAIT_FAILED); /* closed */
     return (int)code;
 }
 
@@ -32,25 +36,88 @@ static char *join(char *out, const char *a, const char *b, const char *c) {
 
 static const char quoted_args[] = " args a\\\"b \"c d\" e\\\\\\\\\"f g\" h\\\\i \"j\"\"k\"";
 
+/* The value buffer holds 256 bytes at first and is replaced by one of
+   exactly the size the platform asks for. The heap calls tell: a fresh
+   name costs its entry, and a new buffer before it when it did not fit. */
+static void value_buffer(void) {
+    t_section("value buffer");
+    unsigned before = allocs();
+    char *v = getenv("ORV_255");
+    CHECK(v && strlen(v) == 255);
+    CHECK_EQ(allocs() - before, 1);
+    static const char *const names[] = {"ORV_256", "ORV_256B", "ORV_257"};
+    static const unsigned lengths[] = {256, 256, 257}, grown[] = {2, 1, 2};
+    for (unsigned i = 0; i < 3; ++i) {
+        before = allocs();
+        v = getenv(names[i]);
+        CHECK(v && strlen(v) == lengths[i] && v[lengths[i] - 1] == 'y');
+        CHECK_EQ(allocs() - before, grown[i]);
+    }
+    before = allocs();
+    CHECK(getenv("ORV_257") == v); /* found in the cache: no heap call */
+    CHECK_EQ(allocs(), before);
+}
+
+/* Case variant i of ORV_CASEVAR: bit k of i lowers letter k. */
+static void case_variant(char *out, unsigned i) {
+    strcpy(out, "ORV_CASEVAR");
+    for (unsigned k = 0, letter = 0; out[k]; ++k)
+        if (out[k] != '_' && (i >> letter++ & 1)) out[k] = (char)(out[k] + 32);
+}
+
 static void cache(void) {
+    t_section("first call without memory");
+    k32_fail_call(K32_HeapAlloc, 1);
+    CHECK(getenv("ORV_T") == NULL);
+    k32_clear_faults();
+
     t_section("getenv");
     char *a = getenv("ORV_T"), *b = getenv("ORV_T"), *c = getenv("orv_t");
     CHECK(a && a == b && c && c != a);
+    CHECK_STR(a, "value");
     CHECK_STR(c, "value");
     CHECK(getenv("ORV_") == NULL);  /* a prefix of a cached name */
     CHECK(getenv("") == NULL);
     CHECK(getenv("ORV_EMPTY") == NULL);
-    char *longer = getenv("ORV_LONG"); /* 300 characters: the buffer grows */
+    value_buffer();
+    char *longer = getenv("ORV_LONG"); /* 300 characters */
     CHECK(longer && strlen(longer) == 300 && longer[299] == 'y');
-    char name[16] = "ORV_N";
-    for (int i = 0; i < 260; ++i) { /* past the first 256 slots */
-        name[5] = (char)('a' + i / 26), name[6] = (char)('a' + i % 26), name[7] = 0;
-        getenv(name);
+    k32_fail_call(K32_HeapAlloc, 1); /* no room for the entry: nothing kept */
+    CHECK(getenv("ORV_F") == NULL);
+    CHECK_STR(getenv("ORV_F"), "f");
+
+    t_section("entry table grows by 256");
+    /* Names that differ only in case are entries of their own; 300 more
+       cross 256 entries once. */
+    static char *seen[300];
+    char name[16];
+    unsigned grows = k32_call_count(K32_HeapReAlloc);
+    for (unsigned i = 0; i < 300; ++i) {
+        case_variant(name, i);
+        seen[i] = getenv(name);
     }
+    CHECK_EQ(k32_call_count(K32_HeapReAlloc) - grows, 1);
+    int kept = 1;
+    for (unsigned i = 0; i < 300; ++i) {
+        case_variant(name, i);
+        kept &= seen[i] != NULL && getenv(name) == seen[i] && strcmp(seen[i], "c") == 0;
+    }
+    CHECK(kept);
     CHECK(getenv("ORV_T") == a);
+
+    t_section("GetEnvironmentVariableA");
     CHECK_EQ(GetEnvironmentVariableA("ORV_T", name, 5), 6);
     CHECK_EQ(GetEnvironmentVariableA("orv_t", name, 6), 5);
     CHECK_STR(name, "value");
+    CHECK_EQ(GetEnvironmentVariableA("ORV_EMPTY", name, sizeof name), 0);
+    CHECK_EQ(GetEnvironmentVariableA("ORV_EMPTY", NULL, 0), 0);
+    CHECK_EQ(GetEnvironmentVariableA("ORV_NOT_SET", name, sizeof name), 0);
+}
+
+/* The child writes to the standard handles it inherited. */
+static int echo(void *arg) {
+    (void)arg;
+    return system("echo inherited; exit 2");
 }
 
 static void shell(const char *self) {
@@ -62,6 +129,10 @@ static void shell(const char *self) {
     char got[64];
     int n = t_read_file("sys.txt", got, sizeof got);
     CHECK_MEM(got, (unsigned)(n < 0 ? 0 : n), "a b\n", 4);
+    t_child c;
+    t_run_child(&c, echo, 0, "", 0);
+    CHECK_EQ(c.status, 2);
+    CHECK_MEM(c.out, c.out_len, "inherited\n", 10);
     /* The command line a child gets, split by the platform's rules. */
     join(line, "\"", self, "\"");
     CHECK_EQ(run(strcat(line, quoted_args)), 0);
@@ -107,11 +178,26 @@ static void signals(void) {
     CHECK_MEM(c.err, c.err_len, "signal #2 -- terminating\r\n", 26);
 }
 
-/* Without SHELL the shell is COMSPEC's; without either it is the
-   platform's interpreter, which this machine does not have. */
+/* The shells of the other modes are this program again, which checks the
+   command line it was given: "-c" and the command as one argument behind
+   the shell's path, or "/c" and the command unquoted behind cmd.exe. It
+   answers the status that the command names. */
+static int as_shell(int argc, char **argv) {
+    if (strcmp(argv[1], "-c") == 0 && argc == 3 && strncmp(argv[2], "exit ", 5) == 0)
+        return atoi(argv[2] + 5);
+    if (strcmp(argv[1], "/c") == 0 && argc == 4 && strcmp(argv[0], "cmd.exe") == 0 &&
+        strcmp(argv[2], "exit") == 0)
+        return atoi(argv[3]);
+    return 100 + argc;
+}
+
 static int other_shells(const char *mode) {
-    if (strcmp(mode, "comspec") == 0) return system("exit 4") == 4 ? 0 : 1;
-    return system("exit 4") == -1 ? 0 : 1;
+    if (strcmp(mode, "missing") == 0) {
+        unsigned before = allocs();
+        if (system(NULL) != 1 || allocs() != before) return 1; /* getenv untouched */
+        return system("exit 5") == -1 ? 0 : 2;
+    }
+    return system("exit 5") == 5 ? 0 : 1;
 }
 
 static int outer(const char *self, const char *env, const char *mode) {
@@ -123,6 +209,8 @@ static int outer(const char *self, const char *env, const char *mode) {
 
 int main(int argc, char **argv) {
     if (argc > 1 && strcmp(argv[1], "args") == 0) return child_args(argc, argv);
+    if (argc > 1 && (strcmp(argv[1], "-c") == 0 || strcmp(argv[1], "/c") == 0))
+        return as_shell(argc, argv);
     if (argc > 1 && strcmp(argv[1], "inside") == 0) {
         cache();
         shell(argv[0]);
@@ -130,11 +218,25 @@ int main(int argc, char **argv) {
         return t_finish();
     }
     if (argc > 1) return other_shells(argv[1]);
-    static char env[512], longer[301];
-    memset(longer, 'y', 300);
-    join(env, "PATH=/usr/bin:/bin SHELL=/bin/sh ORV_T=value ORV_EMPTY= ORV_LONG=", longer, "");
+    static char env[2048], self[512], ys[301];
+    memset(ys, 'y', 300);
+    strcpy(env, "PATH=/usr/bin:/bin SHELL=/bin/sh ORV_T=value ORV_EMPTY= ORV_F=f ORV_CASEVAR=c");
+    static const unsigned lengths[] = {255, 256, 256, 257, 300};
+    static const char *const names[] = {" ORV_255=", " ORV_256=", " ORV_256B=", " ORV_257=", " ORV_LONG="};
+    for (unsigned i = 0; i < 5; ++i) {
+        strcat(env, names[i]);
+        strcat(env, ys + 300 - lengths[i]);
+    }
+    t_section("environments");
     CHECK_EQ(outer(argv[0], env, "inside"), 0);
-    CHECK_EQ(outer(argv[0], "PATH=/usr/bin:/bin COMSPEC=/bin/sh", "comspec"), 0);
-    CHECK_EQ(outer(argv[0], "PATH=/usr/bin:/bin", "bare"), 0);
+    join(self, "SHELL=", argv[0], " COMSPEC=/no/such/shell");
+    CHECK_EQ(outer(argv[0], self, "shell"), 0); /* SHELL comes first */
+    join(self, "COMSPEC=", argv[0], "");
+    CHECK_EQ(outer(argv[0], self, "comspec"), 0);
+    CHECK_EQ(outer(argv[0], "COMSPEC=/no/such/shell", "missing"), 0);
+    /* Neither variable: the platform's interpreter, found on PATH. */
+    join(self, "/bin/ln -sf \"", argv[0], "\" cmd.exe");
+    CHECK_EQ(run(self), 0);
+    CHECK_EQ(outer(argv[0], "PATH=.", "bare"), 0);
     return t_finish();
 }

@@ -3,14 +3,16 @@
 #include <signal.h>
 #include <stdio.h>
 #include <stdlib.h>
+#include <fdmap.h>
 #include <tvlkc.h>
 
 #include "harness.h"
+#include "platform/k32_faults.h"
 
 extern int __atexit_count;
 extern void (**__atexit_table)(void);
 
-static char order[300];
+static char order[400];
 static int ran;
 static void note(char c) { order[ran++] = c; }
 
@@ -22,12 +24,13 @@ static void h_exits(void) { note('x'); exit(7); }
 static void h_print(void) { fputs(order, stdout); }
 
 /* By the time the hook runs exit has closed descriptors 0 to 2: the hook
-   appends to a file by raw calls instead. */
+   appends to a file by raw calls instead, C when descriptor 1 is gone by
+   then and O when it is still open. */
 static int hook_write(void) {
     char seen[8];
     int n = t_read_file("hook.txt", seen, sizeof seen - 1);
     if (n < 0) n = 0;
-    seen[n++] = 'H';
+    seen[n++] = __find_fd_map(1) ? 'O' : 'C';
     t_write_file("hook.txt", seen, (unsigned)n);
     return 0;
 }
@@ -42,6 +45,15 @@ static int lifo(void *arg) {
     atexit(h_b);
     atexit(h_adds);
     exit(3);
+}
+
+/* 300 handlers of two kinds in an irregular order, across two growths of
+   the table: they must run as the exact reverse of it. */
+static int past_128(void *arg) {
+    (void)arg;
+    atexit(h_print);
+    for (int i = 0; i < 300; ++i) atexit(i * 7 % 11 < 5 ? h_a : h_b);
+    exit(0);
 }
 
 static int streams_closed(void *arg) {
@@ -70,6 +82,11 @@ static int aborted(void *arg) {
     return 9;
 }
 
+/* What past_128's handlers print: its registrations backwards. */
+static void past_128_order(char *out) {
+    for (int i = 0; i < 300; ++i) out[i] = (299 - i) * 7 % 11 < 5 ? 'a' : 'b';
+}
+
 int main(void) {
     t_child c;
     t_section("handlers run last registered first");
@@ -77,10 +94,23 @@ int main(void) {
     CHECK_EQ(c.status, 7); /* the inner exit carried on and ended */
     CHECK_MEM(c.out, c.out_len, "+Lbxa", 5);
 
+    t_run_child(&c, past_128, 0, "", 0);
+    char reversed[300];
+    past_128_order(reversed);
+    CHECK_MEM(c.out, c.out_len, reversed, 300);
+
     t_section("the table grows by 128 and keeps its entries");
-    for (int i = 0; i < 129; ++i) CHECK_EQ(atexit(h_a), 0);
+    k32_fail_call(K32_HeapAlloc, 1);
+    CHECK_EQ(atexit(h_a), -1);
+    CHECK(__atexit_table == 0 && __atexit_count == 0);
+    for (int i = 0; i < 128; ++i) atexit(i == 0 ? h_b : h_a);
+    void (**table)(void) = __atexit_table;
+    k32_fail_call(K32_HeapReAlloc, 1);
+    CHECK_EQ(atexit(h_late), -1); /* nothing lost */
+    CHECK(__atexit_table == table && __atexit_count == 128);
+    CHECK_EQ(atexit(h_late), 0);
     CHECK_EQ(__atexit_count, 129);
-    CHECK(__atexit_table[0] == h_a && __atexit_table[128] == h_a);
+    CHECK(__atexit_table[0] == h_b && __atexit_table[127] == h_a && __atexit_table[128] == h_late);
     __atexit_count = 0;
 
     t_section("exit closes every stream; _exit loses buffered data");
@@ -95,12 +125,12 @@ int main(void) {
     CHECK_EQ(c.out_len, 0);
     CHECK_EQ(t_read_file("exit.txt", buf, sizeof buf), 0);
 
-    t_section("hook_exit once, after the handlers");
+    t_section("hook_exit once, after the handlers and the streams");
     for (int fast = 0; fast < 2; ++fast) {
         t_remove("hook.txt");
         t_run_child(&c, hook_once, (void *)(long)fast, "", 0);
         CHECK_MEM(c.out, c.out_len, "h", fast ? 0u : 1u);
-        CHECK_EQ(t_read_file("hook.txt", buf, sizeof buf), 1);
+        CHECK_MEM(buf, (unsigned)t_read_file("hook.txt", buf, sizeof buf), fast ? "O" : "C", 1);
     }
 
     t_section("abort");

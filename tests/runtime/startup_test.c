@@ -25,8 +25,16 @@ static unsigned mxcsr(void) {
 
 static void mxcsr_load(unsigned v) { __asm__ volatile("ldmxcsr %0" : : "m"(v)); }
 
+/* The first initialiser of the library seeds the shared generator (an
+   unseeded one answers 0 for ever), so a walk of the lists would start its
+   sequence over. */
+unsigned long __long_random(unsigned long limit) __asm__("_Z13__long_randomm");
+
 static void entry_calls(void) {
     static const unsigned long reasons[] = {2, 3, 0};
+    unsigned long first = __long_random(1000003);
+    t_section("the load-time walk ran");
+    CHECK(first != 0);
     for (unsigned i = 0; i < 3; ++i) {
         t_section(i == 0 ? "thread attach" : i == 1 ? "thread detach" : "process detach");
         x87_load(0x37F);
@@ -35,6 +43,8 @@ static void entry_calls(void) {
         CHECK_HEX(x87_control(), 0x27F);
         CHECK_HEX(mxcsr(), 0x9FC0); /* the flags are cleared too */
     }
+    t_section("only process attach walks the lists");
+    CHECK(__long_random(1000003) != first);
     t_section("rounding toward zero");
     x87_load(0xF7F);
     CHECK_EQ(_start(0, 2, 0), 1);
