@@ -1,0 +1,62 @@
+/* memset. Lengths below 8, taken as signed, go byte by byte; 8 to 16 bytes
+   as four words that may overlap; longer ones with the processor's repeated
+   byte store. That starts up quickly below 128 bytes but slowly from there,
+   so blocks up to quick_fill_limit go as several quick stores of 127 bytes
+   and what is left. */
+
+#define quick_fill_bytes 127
+#define quick_fill_limit 576
+
+        .text
+
+        .globl  memset
+        .type   memset, @function
+memset:
+        movl    4(%esp), %edx
+        movzbl  8(%esp), %eax
+        movl    12(%esp), %ecx
+        cmpl    $8, %ecx
+        jl      .Lbytes
+        cmpl    $16, %ecx
+        jbe     .Lsmall
+        pushl   %edi
+        movl    %edx, %edi
+        cmpl    $quick_fill_limit, %ecx
+        jae     .Lstore
+        movl    %ecx, %edx
+1:      cmpl    $quick_fill_bytes, %edx
+        jbe     2f
+        movl    $quick_fill_bytes, %ecx
+        rep stosb
+        subl    $quick_fill_bytes, %edx
+        jmp     1b
+2:      movl    %edx, %ecx
+.Lstore:
+        rep stosb
+        popl    %edi
+        movl    4(%esp), %eax
+        ret
+
+.Lsmall:
+        imull   $0x01010101, %eax, %eax
+        movl    %eax, (%edx)
+        movl    %eax, 4(%edx)
+        movl    %eax, -8(%edx,%ecx)
+        movl    %eax, -4(%edx,%ecx)
+        movl    %edx, %eax
+        ret
+
+/* Also for a length of 0x80000000 and more, which no memory holds. */
+.Lbytes:
+        testl   %ecx, %ecx
+        jz      2f
+        addl    %ecx, %edx
+        negl    %ecx
+1:      movb    %al, (%edx,%ecx)
+        incl    %ecx
+        jnz     1b
+2:      movl    4(%esp), %eax
+        ret
+        .size   memset, .-memset
+
+        .section .note.GNU-stack,"",@progbits
