@@ -9,6 +9,11 @@
 // Decimal text to double through the 96-bit number: the digits gather in a
 // wide integer, which is scaled by its power of ten as an x96 and rounded
 // to double once. No floating-point instruction but the final load.
+//
+// Texts of fewer than 19 digits, leading zeros counted, which is nearly
+// all, gather in a 64-bit integer, which never reaches the digit guard and
+// normalises with one shift; only longer ones go on digit by digit in the
+// three words. Either way the mantissa comes out the same.
 namespace {
 
 using std::uint32_t;
@@ -19,20 +24,41 @@ constexpr int exponent_guard = 429496729;
 constexpr int lowest_step = -4930;           // a power that stays in range
 constexpr int highest_power = 4931;
 
+constexpr int short_digits = 19; // fewer than 10^19 fit in 64 bits
+
 struct Reading {
-    uint32_t mantissa[3] = {0, 0, 0};
-    int exponent = 0;   // decimal
-    bool valid = false; // the text has made a number
+    std::uint64_t short_mantissa = 0; // while digits < short_digits
+    uint32_t mantissa[3] = {0, 0, 0}; // from then on
+    int digits = 0;                   // taken into the mantissa
+    int exponent = 0;                 // decimal
+    bool valid = false;               // the text has made a number
     bool overflow = false;
 };
 
 bool is_digit(unsigned char c) { return bits(c) & _IS_DIG; }
-bool has_room(const Reading &r) { return r.mantissa[0] < digit_guard; }
+bool is_short(const Reading &r) { return r.digits < short_digits; }
+bool has_room(const Reading &r) { return is_short(r) || r.mantissa[0] < digit_guard; }
+
+[[gnu::always_inline]] inline void take(Reading &r, unsigned char digit) {
+    if (r.digits < 9) {
+        // Below ten to the ninth the product fits in one word, where it is cheap.
+        r.short_mantissa = static_cast<uint32_t>(r.short_mantissa) * 10u + (digit & 15);
+    } else if (is_short(r)) {
+        r.short_mantissa = r.short_mantissa * 10 + (digit & 15);
+        if (r.digits + 1 == short_digits) {
+            r.mantissa[1] = static_cast<uint32_t>(r.short_mantissa >> 32);
+            r.mantissa[2] = static_cast<uint32_t>(r.short_mantissa);
+        }
+    } else {
+        _mulx10(r.mantissa, digit);
+    }
+    ++r.digits;
+}
 
 const unsigned char *integer_digits(const unsigned char *p, Reading &r) {
     for (; is_digit(*p); ++p) {
         r.valid = true;
-        if (has_room(r)) _mulx10(r.mantissa, *p);
+        if (has_room(r)) take(r, *p);
         else ++r.exponent;
     }
     return p;
@@ -49,12 +75,12 @@ const unsigned char *fraction_digits(const unsigned char *p, Reading &r) {
             continue;
         }
         for (; pending > 0 && has_room(r); --pending) {
-            _mulx10(r.mantissa, 0);
+            take(r, '0');
             --r.exponent;
         }
         pending = 0;
         if (has_room(r)) {
-            _mulx10(r.mantissa, *p);
+            take(r, *p);
             --r.exponent;
         }
     }
@@ -79,9 +105,10 @@ const unsigned char *exponent_part(const unsigned char *p, Reading &r) {
     return p;
 }
 
-// The powers ordinary texts need are kept once made: the same words
-// _cmath_xtoi gives, without its squarings on every call.
-constexpr int kept_powers = 48;
+// The powers that texts in the range of double need are kept once made:
+// the same words _cmath_xtoi gives, without its squarings and reciprocal
+// on every call.
+constexpr int kept_powers = 350;
 uint32_t kept[2 * kept_powers + 1][3];
 bool made[2 * kept_powers + 1];
 
@@ -99,14 +126,28 @@ const uint32_t *ten_to(int power, uint32_t *scratch) {
     return slot;
 }
 
+// A product with ten to the 0, one, is the number itself, exactly.
 void multiply_by_ten_to(uint32_t *x, int power) {
+    if (power == 0) return;
     uint32_t scratch[3];
     _mulx(x, ten_to(power, scratch), x);
 }
 
+// A short mantissa normalises as _normal96 would: the 64 bits shifted up to
+// their leading one.
+void normalise(Reading &r) {
+    if (!is_short(r)) return _normal96(r.mantissa);
+    if (r.short_mantissa == 0) return;
+    int shift = __builtin_clzll(r.short_mantissa);
+    std::uint64_t significand = r.short_mantissa << shift;
+    r.mantissa[0] = orv::x96f::make_head(0, orv::x96f::kBias + 63 - shift);
+    r.mantissa[1] = static_cast<uint32_t>(significand >> 32);
+    r.mantissa[2] = static_cast<uint32_t>(significand);
+}
+
 // Two steps below the lowest power, so that the power itself stays in range.
 void scale(Reading &r) {
-    _normal96(r.mantissa);
+    normalise(r);
     if (r.exponent < lowest_step) {
         multiply_by_ten_to(r.mantissa, r.exponent - lowest_step);
         r.exponent = lowest_step;
