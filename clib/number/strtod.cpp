@@ -20,7 +20,7 @@ using std::uint32_t;
 using orv::ctype::bits;
 
 constexpr uint32_t digit_guard = 429496730; // one more than 0xFFFFFFFF / 10
-constexpr int exponent_guard = 429496729;
+constexpr std::uint32_t exponent_guard = 429496729;
 constexpr int lowest_step = -4930;           // a power that stays in range
 constexpr int highest_power = 4931;
 
@@ -96,12 +96,16 @@ const unsigned char *exponent_part(const unsigned char *p, Reading &r) {
     } else if (!is_digit(*p)) {
         r.valid = false;
     }
-    int value = 0;
+    // Below the guard one more digit can still take the value past the
+    // range of int; such an exponent is out of range, as one past the guard.
+    std::uint32_t value = 0;
     for (; is_digit(*p); ++p) {
         if (value < exponent_guard) value = value * 10 + (*p - '0');
         else r.overflow = true;
     }
-    r.exponent += negative ? -value : value;
+    std::int64_t exponent = r.exponent + (negative ? -std::int64_t{value} : std::int64_t{value});
+    if (value > INT32_MAX || exponent < INT32_MIN || exponent > INT32_MAX) r.overflow = true;
+    else r.exponent = static_cast<int>(exponent);
     return p;
 }
 

@@ -35,6 +35,11 @@ static const struct {
     {"1e5000", 0x7FF0000000000000ULL, -1, 1},
     {"-1e5000", 0xFFF0000000000000ULL, -1, 1},
     {"1e99999999999", 0x7FF0000000000000ULL, -1, 1}, /* exponent digits overflow */
+    /* ten digits that pass the range of int below the guard: out of range
+       too, whichever the sign */
+    {"1e4294967289", 0x7FF0000000000000ULL, -1, 1},
+    {"-1e-2147483648", 0xFFF0000000000000ULL, -1, 1},
+    {"1e-2147483647", 0, -1, 0},
     {"0e5000", 0, -1, 0},
     {"1e-5000", 0, -1, 0},
     {"1e-320", 0, -1, 0},          /* no denormals */
