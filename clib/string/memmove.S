@@ -17,6 +17,15 @@
 
         .text
 
+/* The direction follows the order of the addresses alone, compared as
+   signed numbers; upward, memmove goes on as memcpy. */
+        .globl  memmove
+        .type   memmove, @function
+memmove:
+        movl    4(%esp), %eax
+        cmpl    8(%esp), %eax
+        jg      .Ldown
+
         .globl  memcpy
         .type   memcpy, @function
 memcpy:
@@ -26,23 +35,7 @@ memcpy:
         testl   %ecx, %ecx
         jz      .Lreturn
         cmpl    %edx, %eax
-        jne     .Lup
-        ret
-        .size   memcpy, .-memcpy
-
-/* The direction follows the order of the addresses alone, compared as
-   signed numbers. */
-        .globl  memmove
-        .type   memmove, @function
-memmove:
-        movl    4(%esp), %eax
-        movl    8(%esp), %edx
-        movl    12(%esp), %ecx
-        testl   %ecx, %ecx
-        jz      .Lreturn
-        cmpl    %edx, %eax
         je      .Lreturn
-        jg      .Ldown
 
 .Lup:
         cmpl    $8, %ecx
@@ -115,6 +108,10 @@ memmove:
         ret
 
 .Ldown:
+        movl    8(%esp), %edx
+        movl    12(%esp), %ecx
+        testl   %ecx, %ecx
+        jz      .Lreturn
         cmpl    $8, %ecx
         jl      .Lbytes_down
         cmpl    $16, %ecx
@@ -178,5 +175,6 @@ memmove:
         movl    4(%esp), %eax
         ret
         .size   memmove, .-memmove
+        .size   memcpy, .-memcpy
 
         .section .note.GNU-stack,"",@progbits
