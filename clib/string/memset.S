@@ -1,11 +1,11 @@
 /* memset. Lengths below 8, taken as signed, go byte by byte; 8 to 16 bytes
    as four words that may overlap; longer ones with the processor's repeated
    byte store. That starts up quickly below 128 bytes but slowly from there,
-   so blocks up to quick_fill_limit go as several quick stores of 127 bytes
-   and what is left. */
+   so blocks from 128 bytes up to quick_fill_limit go as quick stores of up
+   to 127 bytes, after four words at the end, which often spare one more. */
 
 #define quick_fill_bytes 127
-#define quick_fill_limit 576
+#define quick_fill_limit 640
 
         .text
 
@@ -21,16 +21,27 @@ memset:
         jbe     .Lsmall
         pushl   %edi
         movl    %edx, %edi
+        cmpl    $quick_fill_bytes, %ecx
+        jbe     .Lstore
         cmpl    $quick_fill_limit, %ecx
         jae     .Lstore
-        movl    %ecx, %edx
-1:      cmpl    $quick_fill_bytes, %edx
-        jbe     2f
-        movl    $quick_fill_bytes, %ecx
+        leal    -16(%edx,%ecx), %edx
+        imull   $0x01010101, %eax, %eax
+        movl    %eax, (%edx)
+        movl    %eax, 4(%edx)
+        movl    %eax, 8(%edx)
+        movl    %eax, 12(%edx)
+        subl    %edi, %edx
+1:      movl    $quick_fill_bytes, %ecx
+        cmpl    %ecx, %edx
+        cmovbe  %edx, %ecx
+        subl    %ecx, %edx
         rep stosb
-        subl    $quick_fill_bytes, %edx
-        jmp     1b
-2:      movl    %edx, %ecx
+        testl   %edx, %edx
+        jnz     1b
+        popl    %edi
+        movl    4(%esp), %eax
+        ret
 .Lstore:
         rep stosb
         popl    %edi
