@@ -28,7 +28,9 @@ static void name_size(char *out, const char *prefix, unsigned size) {
     out[n] = 0;
 }
 
-/* About 64 MiB moved per case, at least 1000 calls. */
+/* About 64 MiB moved per case, at least 1000 calls. memmove_up moves a
+   block one byte up over its own source, which must be copied from the
+   end; memmove_down moves it three bytes down, copied from the start. */
 static unsigned reps_for(unsigned size) {
     unsigned r = (64u * MIB) / size;
     return r < 1000 ? 1000 : r > 4000000 ? 4000000 : r;

@@ -10,7 +10,9 @@ extern "C" ORV_EXPORT void *bsearch(const void *key, const void *base, size_t nm
     const unsigned char *element;
     int result;
     do {
-        int mid = (lo + hi) / 2;
+        // (lo + hi) / 2 while that fits, as lo and hi are never negative
+        // here; beyond 2^30 elements the plain sum would overflow.
+        int mid = lo + (hi - lo) / 2;
         element = static_cast<const unsigned char *>(base) + static_cast<size_t>(mid) * size;
         result = compar(key, element);
         if (result < 0)

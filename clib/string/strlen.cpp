@@ -4,8 +4,14 @@
 
 extern "C" ORV_EXPORT size_t strlen(const char *s) {
     using namespace orv::scan;
-    const word *w = word_of(s);
-    std::uint32_t marks = zero_bytes(*w | before_mask(s));
-    while (marks == 0) marks = zero_bytes(*++w);
-    return static_cast<size_t>(reinterpret_cast<const char *>(w) + first_marked(marks) - s);
+    const char *p = s;
+    if (fits_block(s)) {
+        if (const char *end = first_zero(s)) return static_cast<size_t>(end - s);
+        p = next_block(s);
+    } else {
+        for (; !block_aligned(p); ++p)
+            if (*p == 0) return static_cast<size_t>(p - s);
+    }
+    for (;; p += block)
+        if (const char *end = first_zero(p)) return static_cast<size_t>(end - s);
 }

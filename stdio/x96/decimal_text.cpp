@@ -5,9 +5,10 @@ namespace {
 
 using std::uint32_t;
 
-// The powers ordinary texts need are kept once made: the same words
-// _cmath_xtoi gives, without its squarings on every call.
-constexpr int kept_powers = 48;
+// The powers that texts in the range of double need are kept once made:
+// the same words _cmath_xtoi gives, without its squarings and reciprocal
+// on every call.
+constexpr int kept_powers = 350;
 uint32_t kept[2 * kept_powers + 1][3];
 bool made[2 * kept_powers + 1];
 
@@ -27,7 +28,9 @@ const uint32_t *ten_to(int power, uint32_t *scratch) {
 
 } // namespace
 
+// A product with ten to the 0, one, is the number itself, exactly.
 void multiply_by_ten_to(uint32_t *x, int power) {
+    if (power == 0) return;
     uint32_t scratch[3];
     _mulx(x, ten_to(power, scratch), x);
 }

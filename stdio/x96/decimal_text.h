@@ -16,22 +16,46 @@
 namespace orv::decimal {
 
 inline constexpr std::uint32_t digit_guard = 429496730; // one more than 0xFFFFFFFF / 10
-inline constexpr int exponent_guard = 429496729;
+inline constexpr std::uint32_t exponent_guard = 429496729;
+inline constexpr int short_digits = 19; // fewer than 10^19 fit in 64 bits
 
+// Texts of fewer than 19 digits, leading zeros counted, which is nearly
+// all, gather in a 64-bit integer, which never reaches the digit guard and
+// normalises with one shift; only longer ones go on digit by digit in the
+// three words. Either way the mantissa comes out the same.
 struct Reading {
-    std::uint32_t mantissa[3] = {0, 0, 0};
-    int exponent = 0;   // decimal
-    bool valid = false; // the text has made a number
+    std::uint64_t short_mantissa = 0;      // while digits < short_digits
+    std::uint32_t mantissa[3] = {0, 0, 0}; // from then on
+    int digits = 0;                        // taken into the mantissa
+    int exponent = 0;                      // decimal
+    bool valid = false;                    // the text has made a number
     bool overflow = false;
 };
 
 inline bool is_digit(int c) { return ctype::bits(c) & _IS_DIG; }
-inline bool has_room(const Reading &r) { return r.mantissa[0] < digit_guard; }
+inline bool is_short(const Reading &r) { return r.digits < short_digits; }
+inline bool has_room(const Reading &r) { return is_short(r) || r.mantissa[0] < digit_guard; }
+
+[[gnu::always_inline]] inline void take(Reading &r, int digit) {
+    if (r.digits < 9) {
+        // Below ten to the ninth the product fits in one word, where it is cheap.
+        r.short_mantissa = static_cast<std::uint32_t>(r.short_mantissa) * 10u + (digit & 15);
+    } else if (is_short(r)) {
+        r.short_mantissa = r.short_mantissa * 10 + (digit & 15);
+        if (r.digits + 1 == short_digits) {
+            r.mantissa[1] = static_cast<std::uint32_t>(r.short_mantissa >> 32);
+            r.mantissa[2] = static_cast<std::uint32_t>(r.short_mantissa);
+        }
+    } else {
+        _mulx10(r.mantissa, static_cast<std::uint32_t>(digit));
+    }
+    ++r.digits;
+}
 
 template <class Cursor> void integer_digits(Cursor &in, Reading &r) {
     for (int c; is_digit(c = in.current()); in.advance()) {
         r.valid = true;
-        if (has_room(r)) _mulx10(r.mantissa, static_cast<std::uint32_t>(c));
+        if (has_room(r)) take(r, c);
         else ++r.exponent;
     }
 }
@@ -47,12 +71,12 @@ template <class Cursor> void fraction_digits(Cursor &in, Reading &r) {
             continue;
         }
         for (; pending > 0 && has_room(r); --pending) {
-            _mulx10(r.mantissa, 0);
+            take(r, '0');
             --r.exponent;
         }
         pending = 0;
         if (has_room(r)) {
-            _mulx10(r.mantissa, static_cast<std::uint32_t>(c));
+            take(r, c);
             --r.exponent;
         }
     }
@@ -70,12 +94,16 @@ template <class Cursor> void exponent_part(Cursor &in, Reading &r) {
     } else if (!is_digit(c)) {
         r.valid = false;
     }
-    int value = 0;
+    // Below the guard one more digit can still take the value past the
+    // range of int; such an exponent is out of range, as one past the guard.
+    std::uint32_t value = 0;
     for (; is_digit(c = in.current()); in.advance()) {
         if (value < exponent_guard) value = value * 10 + (c - '0');
         else r.overflow = true;
     }
-    r.exponent += negative ? -value : value;
+    std::int64_t exponent = r.exponent + (negative ? -std::int64_t{value} : std::int64_t{value});
+    if (value > INT32_MAX || exponent < INT32_MIN || exponent > INT32_MAX) r.overflow = true;
+    else r.exponent = static_cast<int>(exponent);
 }
 
 // Everything behind the sign: digits, point, fraction, exponent.
@@ -98,9 +126,21 @@ void multiply_by_ten_to(std::uint32_t *x, int power);
 inline constexpr int lowest_step = -4930; // a power that stays in range
 inline constexpr int highest_power = 4931;
 
+// A short mantissa normalises as _normal96 would: the 64 bits shifted up to
+// their leading one.
+inline void normalise(Reading &r) {
+    if (!is_short(r)) return _normal96(r.mantissa);
+    if (r.short_mantissa == 0) return;
+    int shift = __builtin_clzll(r.short_mantissa);
+    std::uint64_t significand = r.short_mantissa << shift;
+    r.mantissa[0] = x96f::make_head(0, x96f::kBias + 63 - shift);
+    r.mantissa[1] = static_cast<std::uint32_t>(significand >> 32);
+    r.mantissa[2] = static_cast<std::uint32_t>(significand);
+}
+
 // Two steps below the lowest power, so that the power itself stays in range.
 inline void scale(Reading &r) {
-    _normal96(r.mantissa);
+    normalise(r);
     if (r.exponent < lowest_step) {
         multiply_by_ten_to(r.mantissa, r.exponent - lowest_step);
         r.exponent = lowest_step;

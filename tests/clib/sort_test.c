@@ -92,6 +92,12 @@ static int by_first_byte(const void *x, const void *y) {
     return *(const char *)x - *(const char *)y;
 }
 
+/* The key lies above every element; gives up, as found, after 40 calls. */
+static int past_each(const void *x, const void *y) {
+    (void)x, (void)y;
+    return ++calls < 40;
+}
+
 static void other_cases(void) {
     t_section("qsort: empty, single, no memory, larger");
     int v[12] = {3, 1, 2, 9, 8, 7, 6, 5, 4, 0, 11, 10};
@@ -137,6 +143,11 @@ static void other_cases(void) {
     CHECK(bsearch(&key, w, 0, sizeof w[0], traced) == 0);
     CHECK(bsearch(&key, w + 2, 1, sizeof w[0], traced) == w + 2);
     CHECK_STR(trace, "*b*c");
+    /* More than 2^30 elements, of size 0 so that they fit: the middle of
+       the upper half must not overflow into a negative index. */
+    start(w, 0);
+    CHECK(bsearch(&key, w, 0x7FFFFFFF, 0, past_each) == 0);
+    CHECK_EQ(calls, 31);
 
     t_section("div ldiv abs labs");
     div_t d = div(-7, 2), e = div(7, -2);

@@ -1,5 +1,6 @@
 /* The string functions: signed counts, padding and terminators, the signs
-   of comparison, word skipping at every alignment, restarts, tokens. */
+   of comparison, word skipping at every alignment and across pages,
+   restarts, tokens. */
 #include <stdlib.h>
 #include <string.h>
 
@@ -45,18 +46,21 @@ static void comparisons(void) {
     CHECK_EQ(strcasecmp("[", "a"), '[' - 'A');  /* through toupper */
     CHECK_EQ(strncasecmp("ABC", "abd", 2), 0);
     CHECK_EQ(strncasecmp("x", "y", 0), 0);
-    /* A difference, or an early end, at each place, on each alignment pair. */
-    char a[32], b[32];
+    /* A difference, or an early end, at each place, on each alignment pair;
+       the text has bytes from 0x80 on, which look like terminators to a
+       quick word test. */
+    char a[64], b[64];
     int wrong = 0;
-    for (unsigned ia = 0; ia < 4; ++ia)
-        for (unsigned ib = 0; ib < 4; ++ib)
-            for (unsigned at = 0; at < 20; ++at) {
-                for (unsigned k = 0; k <= 24; ++k) a[ia + k] = b[ib + k] = k < 24 ? (char)('a' + k) : 0;
+    for (unsigned ia = 0; ia < 8; ++ia)
+        for (unsigned ib = 0; ib < 8; ++ib)
+            for (unsigned at = 0; at < 40; ++at) {
+                for (unsigned k = 0; k <= 44; ++k) a[ia + k] = b[ib + k] = k < 44 ? (char)(k % 3 ? 'a' + k : 0x7F + k) : 0;
                 wrong += strcmp(a + ia, b + ib) != 0;
+                int was = (unsigned char)b[ib + at];
                 b[ib + at] = (char)0xC1;
-                wrong += strcmp(a + ia, b + ib) != 'a' + (int)at - 0xC1 || strncmp(a + ia, b + ib, at);
+                wrong += strcmp(a + ia, b + ib) != was - 0xC1 || strncmp(a + ia, b + ib, at);
                 b[ib + at] = 0;
-                wrong += strcmp(a + ia, b + ib) != 'a' + (int)at;
+                wrong += strcmp(a + ia, b + ib) != was || strcmp(b + ib, a + ia) != -was;
             }
     CHECK_EQ(wrong, 0);
 }
@@ -75,12 +79,13 @@ static void searches(void) {
     CHECK(strstr(e, "") == e && strstr(e, "a") == 0 && strstr(s, "") == s);
     CHECK(strstr("ab", "abc") == 0);
     /* The character at each place from each alignment; 'z' | 0x80 is no match. */
-    char text[40];
+    char text[64];
     int wrong = 0;
-    for (unsigned at = 0; at < 4; ++at)
-        for (unsigned len = 0; len < 30; ++len) {
-            for (unsigned k = 0; k <= len; ++k) text[at + k] = k < len ? (char)('a' + k % 7) : 0;
+    for (unsigned at = 0; at < 8; ++at)
+        for (unsigned len = 0; len < 40; ++len) {
+            for (unsigned k = 0; k <= len; ++k) text[at + k] = k < len ? (char)(k % 5 ? 'a' + k % 7 : 0x81 + k) : 0;
             wrong += strchr(text + at, 'z') != 0 || strchr(text + at, 0) != text + at + len;
+            wrong += strlen(text + at) != len;
             for (unsigned k = 0; k < len; ++k) {
                 char keep = text[at + k];
                 text[at + k] = 'z';
@@ -89,6 +94,26 @@ static void searches(void) {
                 wrong += strchr(text + at, 'z') != 0;
                 text[at + k] = keep;
             }
+        }
+    CHECK_EQ(wrong, 0);
+}
+
+/* Strings that run over a page boundary, both pages readable: the word
+   scans go byte by byte to the boundary and on in the next page. */
+static void page_crossing(void) {
+    t_section("across a page");
+    static char area[3 * 4096];
+    char *page = (char *)(((unsigned long)area + 4096) & ~4095ul), other[64];
+    int wrong = 0;
+    for (unsigned before = 1; before < 20; ++before)
+        for (unsigned shift = 0; shift < 9; ++shift) {
+            char *s = page - before, *t = page + 4096 - before - shift;
+            for (unsigned k = 0; k <= 40; ++k) s[k] = other[k] = k < 40 ? (char)('A' + k) : 0;
+            wrong += strlen(s) != 40 || strchr(s, 'A' + 30) != s + 30 || strchr(s, 'z') != 0;
+            wrong += strcmp(s, other) != 0 || strcmp(other, s) != 0;
+            for (unsigned k = 0; k <= 40; ++k) t[k] = other[k];
+            t[35] = 'z';
+            wrong += strcmp(s, t) != 'A' + 35 - 'z' || strcmp(t, s) != 'z' - 'A' - 35;
         }
     CHECK_EQ(wrong, 0);
 }
@@ -109,6 +134,7 @@ int main(void) {
     copies();
     comparisons();
     searches();
+    page_crossing();
     tokens();
     return t_finish();
 }

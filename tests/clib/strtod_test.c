@@ -25,11 +25,21 @@ static const struct {
     {"2.2250738585072014e-308", 0x0010000000000000ULL, -1, 0},
     {"0.30000000000000004", 0x3FD3333333333334ULL, -1, 0},
     {"123456789012345678901234567890", 0x45F8EE90FF6C373EULL, -1, 0},
+    {"1234567890123456789", 0x43B12210F47DE981ULL, -1, 0},
+    /* 2^64 + 2049: the bit below the 64 kept is dropped, and what is left
+       is a tie, which goes to even; the nearest double would be above */
+    {"18446744073709553665", 0x43F0000000000000ULL, -1, 0},
+    {"0000000000000000000018446744073709553665.000", 0x43F0000000000000ULL, -1, 0},
     /* forty fraction digits: the trailing zeros take no room */
     {"0.1250000000000000000000000000000000000000", 0x3FC0000000000000ULL, -1, 0},
     {"1e5000", 0x7FF0000000000000ULL, -1, 1},
     {"-1e5000", 0xFFF0000000000000ULL, -1, 1},
     {"1e99999999999", 0x7FF0000000000000ULL, -1, 1}, /* exponent digits overflow */
+    /* ten digits that pass the range of int below the guard: out of range
+       too, whichever the sign */
+    {"1e4294967289", 0x7FF0000000000000ULL, -1, 1},
+    {"-1e-2147483648", 0xFFF0000000000000ULL, -1, 1},
+    {"1e-2147483647", 0, -1, 0},
     {"0e5000", 0, -1, 0},
     {"1e-5000", 0, -1, 0},
     {"1e-320", 0, -1, 0},          /* no denormals */
