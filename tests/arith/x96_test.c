@@ -126,6 +126,17 @@ static void test_product_and_quotient(void) {
     CHECK_X96(r, 0x40000000, 0xFFFFFFFF, 0xFFFFFFFE);
     _mulx(t, t, r);
     CHECK_X96(r, 0x40000000, 0x80000000, 1);
+    /* Out of the field's range a product saturates, as the decimal reader
+       relies on: the largest field above, keeping sign and significand;
+       zero below, but not at the smallest field. */
+    u32 huge[3] = {0xFFFE0000, 0xC0000000, 0}, tiny[3] = {0x00010000, 0x80000000, 0};
+    u32 half[3] = {0x3FFE0000, 0x80000000, 0};
+    _mulx(huge, ten, r);
+    CHECK_X96(r, 0xFFFF0000, 0xF0000000, 0);
+    _mulx(tiny, half, r);
+    CHECK_X96(r, 0, 0, 0);
+    _mulx(tiny, one, r);
+    CHECK_X96(r, 0x00010000, 0x80000000, 0);
     for (unsigned i = 0; i < sizeof products / sizeof products[0]; ++i) {
         _mulx(products[i][0], products[i][1], r);
         CHECK_MEM(r, 12, products[i][2], 12);
@@ -140,7 +151,6 @@ static void test_product_and_quotient(void) {
     _divx(m, three, three);                   /* over the divisor */
     CHECK_X96(three, 0xC0040000, 0x85555555, 0x55555555);
     /* An exponent difference below -16382 is zero; at -16382 it is not. */
-    u32 tiny[3] = {0x00010000, 0x80000000, 0};
     _divx(tiny, two, r);
     CHECK_X96(r, 0, 0, 0);
     _divx(tiny, one, r);
