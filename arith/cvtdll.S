@@ -12,14 +12,14 @@
         .text
 FUNCTION _orvane_cvtdll
         subl    $12, %esp
-        X87_TRUNCATE 8(%esp), %ecx
+        X87_TRUNCATE 8(%esp)
         fldl    16(%esp)
         jmp     .Lconvert
 END _orvane_cvtdll
 
 FUNCTION _orvane_cvtfll
         subl    $12, %esp
-        X87_TRUNCATE 8(%esp), %ecx
+        X87_TRUNCATE 8(%esp)
         flds    16(%esp)
         /* ECX holds the GOT address from here on. */
 .Lconvert:

@@ -2,11 +2,12 @@
 // All are cdecl: a 64-bit value travels as two stack words, low word first,
 // and comes back in EDX:EAX; a floating result comes back in ST(0).
 //
-// The fast family uses 32-bit hardware operations when the operands allow
-// and the x87 unit (under the stored control word __orvane_x87_cw, the
-// caller's restored on exit) otherwise,
-// handing the rest to its slow partner. The slow family is integer work in
-// 32-bit words and never calls the fast one.
+// The fast family answers with the hardware wherever that is exact: word
+// multiplies and divisions, and the x87 unit with its 64-bit significand
+// under the stored control word __orvane_x87_cw, the caller's restored on
+// exit. The unsigned conversions of values from 2^63 up are left to the
+// slow partner, whose truncation is their defined result. The slow family
+// is integer work in 32-bit words and never calls the fast one.
 #pragma once
 
 #include <cstdint>

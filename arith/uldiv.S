@@ -1,14 +1,8 @@
-/* Unsigned quotient: operands below 2^63 are the signed helper's
-   business (a zero divisor included); the rest is integer work. */
+/* Unsigned 64-bit quotient. */
 #include "arith/x87.inc"
+#include "arith/div_frame.inc"
 
         .text
-FUNCTION _orvane_uldiv
-        movl    8(%esp), %eax
-        orl     16(%esp), %eax
-        js      1f
-        jmp     _orvane_ldiv
-1:      jmp     _orvane_slow_uldiv
-END _orvane_uldiv
+UNSIGNED_DIVIDE _orvane_uldiv, 0
 
         .section .note.GNU-stack,"",@progbits

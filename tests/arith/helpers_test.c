@@ -222,13 +222,25 @@ static ull call_marked(void *fn, ull a, ull b) {
 
 static void test_calling_convention(void) {
     t_section("registers and x87 state across calls");
+    /* One row for each way through the division frames: one or two word
+       divisions, the x87 unit, and the answers given without dividing. */
     struct { void *fn; ull a, b, want; } calls[] = {
         {(void *)_orvane_ldiv, 100, 7, 14},
-        {(void *)_orvane_ldiv, 0x123456789ABCDEFull, 0x1000, 0x123456789ABCull},
-        {(void *)_orvane_ldiv, 0x7FFFFFFFFFFFFFFFull, 3, 0x2AAAAAAAAAAAAAAAull},
+        {(void *)_orvane_ldiv, (ull)-0x123456789ABCDEFll, 0x1000, (ull)-0x123456789ABCll},
+        {(void *)_orvane_ldiv, 0x7FFFFFFFFFFFFFFFull, 0x300000000ull, 0x2AAAAAAAull},
+        {(void *)_orvane_ldiv, 5, (ull)MIN64, 0},
+        {(void *)_orvane_ldiv, 5, 0, MAX64},
+        {(void *)_orvane_lmod, (ull)-100, 7, (ull)-2},
         {(void *)_orvane_lmod, (ull)-0x7FFFFFFFFFFFFFFFll, 0x100000007ull,
          (ull)(-0x7FFFFFFFFFFFFFFFll % 0x100000007ll)},
+        {(void *)_orvane_lmod, (ull)-5, (ull)MIN64, (ull)-5},
         {(void *)_orvane_uldiv, ~0ull, 16, 0x0FFFFFFFFFFFFFFFull},
+        {(void *)_orvane_uldiv, ~0ull, 0x100000001ull, 0xFFFFFFFFull},
+        {(void *)_orvane_uldiv, ~0ull, 0x8000000000000001ull, 1},
+        {(void *)_orvane_uldiv, ~0ull, 0, ~0ull},
+        {(void *)_orvane_ulmod, ~0ull, 10, 5},
+        {(void *)_orvane_ulmod, ~0ull - 1, 0x100000001ull, (~0ull - 1) % 0x100000001ull},
+        {(void *)_orvane_ulmod, 7, 0x100000000ull, 7},
         {(void *)_orvane_lmul, 0x100000001ull, 0x100000001ull, 0x200000001ull},
         {(void *)_orvane_slow_ldiv, 0x123456789ABCDEFull, 0x1000, 0x123456789ABCull},
         {(void *)_orvane_slow_uldiv, ~0ull, 3, 0x5555555555555555ull},

@@ -56,6 +56,18 @@ for a, b in [(rx(), rx()) for _ in range(4)]: print("    {%s}," % words(a, b, mu
 for B in (0x8000000000000003, 0x8000000000000001):  # ties: stays on even, rounds up
     a, b = pack(0, 16383, 0xC << 60), pack(0, 16383, B)
     print("    {%s}," % words(a, b, mulx(a, b)))
+# Products whose result shows that the three lowest limb products are left
+# out: the full product would give other words.
+def full_mulx(a, b):
+    e, p = field(a) + field(b) - 32765, sig(a) * sig(b) >> 32
+    if p & 0x40000000 and p & 0xBFFFFFFF: p += 0x80000000
+    if not p >> 95: p, e = p << 1, e - 1
+    return pack((a[0] ^ b[0]) & 0x80000000, e + 16383, p >> 32)
+shown, own = [], random.Random(5)  # a stream of its own leaves the others as they were
+while len(shown) < 2:
+    a, b = pack(0, 16383, own.getrandbits(64) | 1 << 63), pack(0, 16383, own.getrandbits(64) | 1 << 63)
+    if mulx(a, b) != full_mulx(a, b): shown.append((a, b))
+for a, b in shown: print("    {%s}," % words(a, b, mulx(a, b)))
 print("quotients")
 for a, b in [(rx(), rx()) for _ in range(4)]: print("    {%s}," % words(a, b, divx(a, b)))
 # Ties on the quotient bits alone, a remainder behind: A 2^63 mod B just
@@ -68,4 +80,10 @@ while len(found) < 2:
     if not A >> 64 and q & 0x7FFFFFFF == 0x40000000: found.setdefault(q >> 31 & 1, (A, B))
 for odd in (0, 1):
     a, b = pack(0, 16383, found[odd][0]), pack(0, 16383, found[odd][1])
+    print("    {%s}," % words(a, b, divx(a, b)))
+# Nearly equal significands, where a partial remainder reaches the
+# divisor's top word: word-by-word long division must not trip over them.
+for A, B in [(0xEC80FAD7E194DF3D, 0xEC80FAD7E194DEEC), (0x82B6A80399EAC346, 0x82B6A80399EAC347),
+             (0x9C7FF0F1E4810F9D, 0x9C7FF0F1E4810F9E)]:
+    a, b = pack(0, 16383, A), pack(0, 16383, B)
     print("    {%s}," % words(a, b, divx(a, b)))

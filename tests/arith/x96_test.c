@@ -81,6 +81,8 @@ static const u32 products[][3][3] = {
     {{0x41100000, 0xC2A00403, 0xCE80C4B0}, {0xBF460000, 0xCF5253A0, 0x2A318785}, {0xC0580000, 0x9D9DFA14, 0x0295EAEF}},
     {{0x3FFF0000, 0xC0000000, 0x00000000}, {0x3FFF0000, 0x80000000, 0x00000003}, {0x3FFF0000, 0xC0000000, 0x00000004}},
     {{0x3FFF0000, 0xC0000000, 0x00000000}, {0x3FFF0000, 0x80000000, 0x00000001}, {0x3FFF0000, 0xC0000000, 0x00000002}},
+    {{0x3FFF0000, 0x946815F8, 0xB152E8FD}, {0x3FFF0000, 0xA547D542, 0x20C7B3CE}, {0x3FFF0000, 0xBFA17550, 0xA4C3F76B}},
+    {{0x3FFF0000, 0xA614E556, 0xFAAE7E69}, {0x3FFF0000, 0xA9BC4E3D, 0x814D65F3}, {0x3FFF0000, 0xDC3BEB02, 0x38365B61}},
 };
 static const u32 quotients[][3][3] = {
     {{0xC1020000, 0xBB5D7385, 0xDE08CAA1}, {0xBED80000, 0x9B191BF4, 0xD8441B56}, {0x42290000, 0x9AA12143, 0x62A3479E}},
@@ -89,6 +91,9 @@ static const u32 quotients[][3][3] = {
     {{0xC0880000, 0xE9F85E31, 0x31F3B923}, {0xC0E50000, 0xEE58D5CA, 0x49C7B59B}, {0x3FA10000, 0xFB4C8BD9, 0x206918CF}},
     {{0x3FFF0000, 0x9C82DB49, 0xCDFF537B}, {0x3FFF0000, 0x800001A0, 0x84F184C3}, {0x3FFF0000, 0x9C82D94C, 0x822EDA0A}},
     {{0x3FFF0000, 0xD4838CDF, 0xF9B94DA9}, {0x3FFF0000, 0x80000052, 0xE71A4875}, {0x3FFF0000, 0xD4838C56, 0x55C25C12}},
+    {{0x3FFF0000, 0xEC80FAD7, 0xE194DF3D}, {0x3FFF0000, 0xEC80FAD7, 0xE194DEEC}, {0x3FFF0000, 0x80000000, 0x0000002C}},
+    {{0x3FFF0000, 0x82B6A803, 0x99EAC346}, {0x3FFF0000, 0x82B6A803, 0x99EAC347}, {0x3FFE0000, 0xFFFFFFFF, 0xFFFFFFFE}},
+    {{0x3FFF0000, 0x9C7FF0F1, 0xE4810F9D}, {0x3FFF0000, 0x9C7FF0F1, 0xE4810F9E}, {0x3FFE0000, 0xFFFFFFFF, 0xFFFFFFFE}},
 };
 
 /* Products of significands short enough to be exact, and the quotients
@@ -126,6 +131,17 @@ static void test_product_and_quotient(void) {
     CHECK_X96(r, 0x40000000, 0xFFFFFFFF, 0xFFFFFFFE);
     _mulx(t, t, r);
     CHECK_X96(r, 0x40000000, 0x80000000, 1);
+    /* Out of the field's range a product saturates, as the decimal reader
+       relies on: the largest field above, keeping sign and significand;
+       zero below, but not at the smallest field. */
+    u32 huge[3] = {0xFFFE0000, 0xC0000000, 0}, tiny[3] = {0x00010000, 0x80000000, 0};
+    u32 half[3] = {0x3FFE0000, 0x80000000, 0};
+    _mulx(huge, ten, r);
+    CHECK_X96(r, 0xFFFF0000, 0xF0000000, 0);
+    _mulx(tiny, half, r);
+    CHECK_X96(r, 0, 0, 0);
+    _mulx(tiny, one, r);
+    CHECK_X96(r, 0x00010000, 0x80000000, 0);
     for (unsigned i = 0; i < sizeof products / sizeof products[0]; ++i) {
         _mulx(products[i][0], products[i][1], r);
         CHECK_MEM(r, 12, products[i][2], 12);
@@ -140,7 +156,6 @@ static void test_product_and_quotient(void) {
     _divx(m, three, three);                   /* over the divisor */
     CHECK_X96(three, 0xC0040000, 0x85555555, 0x55555555);
     /* An exponent difference below -16382 is zero; at -16382 it is not. */
-    u32 tiny[3] = {0x00010000, 0x80000000, 0};
     _divx(tiny, two, r);
     CHECK_X96(r, 0, 0, 0);
     _divx(tiny, one, r);
@@ -183,6 +198,10 @@ static void test_powers(void) {
     _divx(one, ten, tenth);
     _cmath_xtoi(ten, -1, r);
     CHECK_MEM(r, 12, tenth, 12);
+    /* Zero to a negative power divides by zero: every quotient bit comes
+       out 1 and rounds up into the next power, the largest exponent. */
+    _cmath_xtoi(z, -1, r);
+    CHECK_X96(r, 0x7FFF0000, 0x80000000, 0);
     _cmath_xtoi(m, 3, r);
     CHECK_X96(r, 0xC0080000, 0xFA000000, 0);
     _cmath_xtoi(m, 2, m);                    /* over its operand */
