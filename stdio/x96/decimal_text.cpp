@@ -18,10 +18,13 @@ const uint32_t *ten_to(int power, uint32_t *scratch) {
         return scratch;
     }
     uint32_t *slot = kept[power + kept_powers];
-    // Two threads may both make a power; they write the same words.
-    if (!__atomic_load_n(&made[power + kept_powers], __ATOMIC_ACQUIRE)) {
+    // Two threads may both make a power; they write the same words, and the
+    // words are stored before the mark (the processor keeps stores in order;
+    // the barrier keeps the compiler from moving them).
+    if (!made[power + kept_powers]) {
         _cmath_xtoi(x96f::kTen.word, power, slot);
-        __atomic_store_n(&made[power + kept_powers], true, __ATOMIC_RELEASE);
+        __asm__ volatile("" ::: "memory");
+        made[power + kept_powers] = true;
     }
     return slot;
 }
