@@ -13,9 +13,12 @@
    Register use on the way in: eax the destination, edx the source, ecx the
    length. The result is reloaded from the argument at the end. */
 
+#include "clib/string/sse.inc"
+
 #define word_loop_limit 768
 
         .text
+        PC_THUNK ecx
 
 /* The direction follows the order of the addresses alone, compared as
    signed numbers; upward, memmove goes on as memcpy. */
@@ -120,8 +123,13 @@ memcpy:
         cmpl    %ecx, %eax
         leal    (%eax,%edx), %eax
         jae     .Lup_long
+        cmpl    $64, %ecx
+        jbe     .Ldown_words
+        COMPARE_SSE_STATE ecx
+        jg      .Ldown_wide
         cmpl    $word_loop_limit, %ecx
         jae     .Ldown_far
+.Ldown_words:
 
 /* Four words at a time from the end; every load of a step comes before its
    stores, which land above all the source still to be read. The first
@@ -164,6 +172,48 @@ memcpy:
         jnz     1b
         popl    %ebx
         movl    4(%esp), %eax
+        ret
+
+/* Downward over its own source with SSE: aligned 16-byte stores from the
+   end, each step's load before its store, which lands above every source
+   byte still to be read. The first and the last 16 bytes are read before
+   anything is written and stored last, around the aligned stores. */
+        .globl  __move_down_wide
+        .hidden __move_down_wide
+__move_down_wide:
+.Ldown_wide:
+        movdqu  (%edx), %xmm1
+        movdqu  -16(%edx,%ecx), %xmm2
+        pushl   %ebx
+        pushl   %esi
+        addl    %eax, %ecx
+        subl    %eax, %edx
+        movl    %ecx, %ebx
+        andl    $-16, %ebx
+        leal    80(%eax), %esi
+        cmpl    %esi, %ebx
+        jbe     2f
+1:      subl    $64, %ebx
+        movdqu  48(%ebx,%edx), %xmm0
+        movdqu  32(%ebx,%edx), %xmm3
+        movdqu  16(%ebx,%edx), %xmm4
+        movdqu  (%ebx,%edx), %xmm5
+        movdqa  %xmm0, 48(%ebx)
+        movdqa  %xmm3, 32(%ebx)
+        movdqa  %xmm4, 16(%ebx)
+        movdqa  %xmm5, (%ebx)
+        cmpl    %esi, %ebx
+        ja      1b
+2:      subl    $64, %esi
+3:      subl    $16, %ebx
+        movdqu  (%ebx,%edx), %xmm0
+        movdqa  %xmm0, (%ebx)
+        cmpl    %esi, %ebx
+        ja      3b
+        movdqu  %xmm2, -16(%ecx)
+        movdqu  %xmm1, (%eax)
+        popl    %esi
+        popl    %ebx
         ret
 
 .Ldown_far:
