@@ -1,6 +1,7 @@
 /* memset. Lengths below 8, taken as signed, go byte by byte; 8 to 16 bytes
-   as four words that may overlap. Longer ones below wide_fill_limit go as
-   16-byte stores where the processor has SSE. From there on, and without
+   as four words that may overlap, 17 to 32 as eight. Longer ones below
+   wide_fill_limit go as 16-byte stores where the processor has SSE; without
+   it, up to 64 bytes as sixteen words. From wide_fill_limit on, and without
    SSE, they go with the processor's repeated byte store, the fastest fill
    of large blocks. That starts up quickly below 128 bytes but slowly from
    there, so without SSE blocks from 128 bytes up to quick_fill_limit go as
@@ -26,12 +27,14 @@ memset:
         jl      .Lbytes
         cmpl    $16, %ecx
         jbe     .Lsmall
-        cmpl    $64, %ecx
+        cmpl    $32, %ecx
         jbe     .Lwords
         cmpl    $wide_fill_limit, %ecx
         jae     .Lnarrow
         COMPARE_SSE_STATE ecx
         jg      .Lwide
+        cmpl    $64, %ecx
+        jbe     .Lwords
 .Lnarrow:
         pushl   %edi
         movl    %edx, %edi
