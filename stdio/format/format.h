@@ -48,9 +48,39 @@ struct Arguments {
     void skip(unsigned bytes) { at += bytes; }
 };
 
-// n characters to the sink: for a stream sink in runs, as the inline step
-// would store them; otherwise one put at a time. Answers n, or -1.
-int put_run(_orv_sink *sink, const char *text, int n);
+// The memory sink's put: the byte at the cursor, which moves on; never fails.
+int put_memory(int character, void *context);
+
+// n characters to the sink, or n copies of c; for the library's own sinks
+// as blocks, otherwise one put at a time. Answer n (0 for n below 1), or -1.
+int put_run_any(_orv_sink *sink, const char *text, int n);
+int put_fill_any(_orv_sink *sink, char c, int n);
+
+// The memory sink, the usual one for short texts, inline.
+inline int put_run(_orv_sink *sink, const char *text, int n) {
+    if (n <= 0) return 0;
+    if (sink->put != put_memory || n > 16) return put_run_any(sink, text, n);
+    char *&cursor = *static_cast<char **>(sink->context);
+    for (int i = 0; i < n; ++i) cursor[i] = text[i];
+    cursor += n;
+    return n;
+}
+
+inline int put_fill(_orv_sink *sink, char c, int n) {
+    if (n <= 0) return 0;
+    if (sink->put != put_memory) return put_fill_any(sink, c, n);
+    char *&cursor = *static_cast<char **>(sink->context);
+    for (int i = 0; i < n; ++i) cursor[i] = c;
+    cursor += n;
+    return n;
+}
+
+// What __print_field does once it has measured its text: for printers
+// that know the length.
+int print_text(const format_spec *spec, _orv_sink *sink, const char *text, int length);
+
+// A run through the batch area, as __batch_put would take it byte by byte.
+int batch_run(void *stream, const char *text, int n);
 
 } // namespace orv::fmt
 
