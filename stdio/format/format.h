@@ -56,22 +56,43 @@ int put_memory(int character, void *context);
 int put_run_any(_orv_sink *sink, const char *text, int n);
 int put_fill_any(_orv_sink *sink, char c, int n);
 
-// The memory sink, the usual one for short texts, inline.
+// Where a short run can go at once: the memory cursor, or the room that
+// a stream sink's inline step has; null when the run must take the long
+// way.
+inline char *direct_room(_orv_sink *sink, int n) {
+    if (sink->put == put_memory) return *static_cast<char **>(sink->context);
+    if (sink->put != fputc_put()) return nullptr;
+    auto *stream = static_cast<FILE *>(sink->context);
+    return n <= stream->_cnt ? reinterpret_cast<char *>(stream->_ptr) : nullptr;
+}
+
+// Steps the memory cursor, or the stream's inline step, over n bytes.
+inline void direct_done(_orv_sink *sink, int n) {
+    if (sink->put == put_memory) {
+        *static_cast<char **>(sink->context) += n;
+        return;
+    }
+    auto *stream = static_cast<FILE *>(sink->context);
+    stream->_ptr += n;
+    stream->_cnt -= n;
+}
+
+// Short runs and fills, the usual ones, inline.
 inline int put_run(_orv_sink *sink, const char *text, int n) {
     if (n <= 0) return 0;
-    if (sink->put != put_memory || n > 16) return put_run_any(sink, text, n);
-    char *&cursor = *static_cast<char **>(sink->context);
-    for (int i = 0; i < n; ++i) cursor[i] = text[i];
-    cursor += n;
+    char *to = n <= 16 ? direct_room(sink, n) : nullptr;
+    if (to == nullptr) return put_run_any(sink, text, n);
+    for (int i = 0; i < n; ++i) to[i] = text[i];
+    direct_done(sink, n);
     return n;
 }
 
 inline int put_fill(_orv_sink *sink, char c, int n) {
     if (n <= 0) return 0;
-    if (sink->put != put_memory) return put_fill_any(sink, c, n);
-    char *&cursor = *static_cast<char **>(sink->context);
-    for (int i = 0; i < n; ++i) cursor[i] = c;
-    cursor += n;
+    char *to = n <= 16 ? direct_room(sink, n) : nullptr;
+    if (to == nullptr) return put_fill_any(sink, c, n);
+    for (int i = 0; i < n; ++i) to[i] = c;
+    direct_done(sink, n);
     return n;
 }
 
