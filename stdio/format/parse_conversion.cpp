@@ -54,7 +54,7 @@ extern "C" const char *__parse_conversion(format_spec *spec, const char *p, orv:
         int w = arguments->take<int>();
         if (w < 0) {
             spec->right_justify = false;
-            w = -w;
+            w = static_cast<int>(0u - static_cast<unsigned>(w));
         }
         spec->width = w;
         ++p;

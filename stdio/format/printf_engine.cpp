@@ -58,10 +58,11 @@ int convert(format_spec *spec, _orv_sink *sink, Arguments &args, int count) {
 // Walks the format, handing characters one at a time to the sink.
 extern "C" ORV_EXPORT int _printf_(_orv_sink *sink, const char *format, const void *arguments) {
     if (format == nullptr) return 0;
-    // Only a batching call can leave bytes in the batch area, so only that
-    // call has anything to flush.
-    bool batching = sink->put == orv::fmt::fputc_put() && (static_cast<FILE *>(sink->context)->_flag & _IONBF);
-    if (batching) sink->put = __batch_put;
+    if (sink->put == orv::fmt::fputc_put() && (static_cast<FILE *>(sink->context)->_flag & _IONBF))
+        sink->put = __batch_put;
+    // Only a batching call, this one or a record that an earlier call
+    // turned, can leave bytes in the batch area to flush.
+    bool batching = sink->put == __batch_put;
     Arguments args{static_cast<const unsigned char *>(arguments)};
     format_spec spec;
     int count = 0;

@@ -146,6 +146,23 @@ static void batching(void) {
     CHECK_EQ(fprintf(f, "%s", big), -1);
     CHECK(!ferror(f)); /* the batch bypasses the stream's flags */
     fclose(f);
+
+    /* A sink of the program's own with fputc is batched the same, and the
+       record keeps the batch put, whose bytes every later call flushes. */
+    f = fopen("batch.txt", "wb");
+    setvbuf(f, NULL, _IONBF, 0);
+    struct _orv_sink sink = {f, (int (*)(int, void *))fputc};
+    int arg = 42;
+    k32_trace_start(trace, 16);
+    CHECK_EQ(_printf_(&sink, "one %d;", &arg), 7);
+    CHECK(sink.put != (int (*)(int, void *))fputc);
+    CHECK_EQ(_printf_(&sink, "two %d;", &arg), 7);
+    n = k32_trace_stop();
+    CHECK(n == 2 && trace[0].count == 7 && trace[1].count == 7);
+    fclose(f);
+    char back[32];
+    CHECK_EQ(t_read_file("batch.txt", back, sizeof back), 14);
+    CHECK_MEM(back, 14, "one 42;two 42;", 14);
 }
 
 int main(void) {
