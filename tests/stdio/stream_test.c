@@ -304,6 +304,27 @@ static void failures(void) {
     CHECK_EQ(errno, EBADF);
     CHECK_EQ(fflush(f), -1);
 
+    /* A failed write of a full buffer leaves its bytes there: the next
+       store has no room and fails, rather than store past the buffer, and
+       a flush writes the bytes that were held. */
+    static char area[12];
+    t_memset(area, '#', sizeof area);
+    f = fopen("e.bin", "wb");
+    setvbuf(f, area, _IOFBF, 8);
+    k32_fail_call(K32_WriteFile, 1);
+    for (int i = 0; i < 7; ++i) putc('a' + i, f);
+    CHECK_EQ(putc('h', f), EOF);
+    errno = 0;
+    CHECK_EQ(putc('i', f), EOF);
+    CHECK_EQ(errno, EIO);
+    CHECK_MEM(area + 8, 4, "####", 4);
+    CHECK_EQ(fflush(f), 0);
+    clearerr(f);
+    CHECK_EQ(putc('j', f), 'j');
+    fclose(f);
+    CHECK_EQ(t_read_file("e.bin", buf, sizeof buf), 9);
+    CHECK_MEM(buf, 9, "abcdefghj", 9);
+
     f = reopen_with("data", "r");
     k32_fail_call(K32_ReadFile, 1);
     CHECK_EQ(getc(f), EOF);
