@@ -25,10 +25,6 @@ int field(const format_spec *spec, _orv_sink *sink, const char *p, const char *e
     return orv::fmt::print_text(spec, sink, p, static_cast<int>(end - p));
 }
 
-} // namespace
-
-namespace {
-
 // Base^k is the largest power that fits a 32-bit word.
 template <unsigned base> constexpr unsigned chunk_digits() {
     unsigned k = 0;
@@ -45,7 +41,10 @@ template <unsigned base> constexpr std::uint32_t chunk_value() {
 struct DigitPairs {
     char text[200];
     constexpr DigitPairs() : text() {
-        for (int i = 0; i < 100; ++i) text[2 * i] = static_cast<char>('0' + i / 10), text[2 * i + 1] = static_cast<char>('0' + i % 10);
+        for (int i = 0; i < 100; ++i) {
+            text[2 * i] = static_cast<char>('0' + i / 10);
+            text[2 * i + 1] = static_cast<char>('0' + i % 10);
+        }
     }
 };
 constexpr DigitPairs pairs{};
