@@ -10,7 +10,7 @@ int main(void) {
     char buf[128];
     int n = 0;
     double t = bench_now();
-    for (int i = 0; i < 1000000; ++i) n += p_sprintf(buf, "%d", i * 7919 - 400000);
+    for (int i = 0; i < 1000000; ++i) n += p_sprintf(buf, "%d", (int)((unsigned)i * 7919u - 400000u));
     bench_report("sprintf_d", bench_now() - t);
     t = bench_now();
     for (int i = 0; i < 1000000; ++i) n += p_sprintf(buf, "%08x", (unsigned)i * 2654435761u);

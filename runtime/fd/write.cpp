@@ -1,4 +1,6 @@
+#include "clib/string/block.h"
 #include "include/io.h"
+#include "include/string.h"
 #include "runtime/fd/descriptor.h"
 #include "runtime/hooks.h"
 
@@ -14,16 +16,26 @@ struct Chunk {
     unsigned crs_added;
 };
 
+// Whole runs between line ends at a time, as many source bytes as the
+// byte-by-byte rule would take: a chunk closes once it holds 255 or more.
 const char *stage(const char *src, const char *end, Chunk &chunk) {
     chunk.length = 0;
     chunk.crs_added = 0;
     while (chunk.length < chunk_fill && src < end) {
-        char c = *src++;
-        if (c == '\n') {
+        std::size_t room = chunk_fill - chunk.length, left = static_cast<std::size_t>(end - src);
+        std::size_t take = room < left ? room : left;
+        auto *lf = static_cast<const char *>(memchr(src, '\n', take));
+        std::size_t run = lf != nullptr ? static_cast<std::size_t>(lf - src) : take;
+        orv::block::copy_up(reinterpret_cast<orv::block::byte *>(chunk.bytes + chunk.length),
+                            reinterpret_cast<const orv::block::byte *>(src), run);
+        chunk.length += static_cast<unsigned>(run);
+        src += run;
+        if (lf != nullptr) {
             chunk.bytes[chunk.length++] = '\r';
+            chunk.bytes[chunk.length++] = '\n';
             ++chunk.crs_added;
+            ++src;
         }
-        chunk.bytes[chunk.length++] = c;
     }
     return src;
 }

@@ -1,3 +1,4 @@
+#include "clib/string/block.h"
 #include "include/io.h"
 #include "stdio/format/format.h"
 
@@ -25,3 +26,19 @@ extern "C" int __batch_put(int character, void *stream) {
     *cursor++ = static_cast<unsigned char>(character);
     return 0;
 }
+
+namespace orv::fmt {
+
+int batch_run(void *stream, const char *text, int n) {
+    for (int done = 0; done < n;) {
+        if (cursor == area + area_size && __flush_batch(stream) == -1) return -1;
+        int room = static_cast<int>(area + area_size - cursor);
+        int run = n - done < room ? n - done : room;
+        block::copy_up(cursor, reinterpret_cast<const block::byte *>(text + done), static_cast<std::size_t>(run));
+        cursor += run;
+        done += run;
+    }
+    return n;
+}
+
+} // namespace orv::fmt

@@ -48,9 +48,60 @@ struct Arguments {
     void skip(unsigned bytes) { at += bytes; }
 };
 
-// n characters to the sink: for a stream sink in runs, as the inline step
-// would store them; otherwise one put at a time. Answers n, or -1.
-int put_run(_orv_sink *sink, const char *text, int n);
+// The memory sink's put: the byte at the cursor, which moves on; never fails.
+int put_memory(int character, void *context);
+
+// n characters to the sink, or n copies of c; for the library's own sinks
+// as blocks, otherwise one put at a time. Answer n (0 for n below 1), or -1.
+int put_run_any(_orv_sink *sink, const char *text, int n);
+int put_fill_any(_orv_sink *sink, char c, int n);
+
+// Where a short run can go at once: the memory cursor, or the room that
+// a stream sink's inline step has; null when the run must take the long
+// way.
+inline char *direct_room(_orv_sink *sink, int n) {
+    if (sink->put == put_memory) return *static_cast<char **>(sink->context);
+    if (sink->put != fputc_put()) return nullptr;
+    auto *stream = static_cast<FILE *>(sink->context);
+    return n <= stream->_cnt ? reinterpret_cast<char *>(stream->_ptr) : nullptr;
+}
+
+// Steps the memory cursor, or the stream's inline step, over n bytes.
+inline void direct_done(_orv_sink *sink, int n) {
+    if (sink->put == put_memory) {
+        *static_cast<char **>(sink->context) += n;
+        return;
+    }
+    auto *stream = static_cast<FILE *>(sink->context);
+    stream->_ptr += n;
+    stream->_cnt -= n;
+}
+
+// Short runs and fills, the usual ones, inline.
+inline int put_run(_orv_sink *sink, const char *text, int n) {
+    if (n <= 0) return 0;
+    char *to = n <= 16 ? direct_room(sink, n) : nullptr;
+    if (to == nullptr) return put_run_any(sink, text, n);
+    for (int i = 0; i < n; ++i) to[i] = text[i];
+    direct_done(sink, n);
+    return n;
+}
+
+inline int put_fill(_orv_sink *sink, char c, int n) {
+    if (n <= 0) return 0;
+    char *to = n <= 16 ? direct_room(sink, n) : nullptr;
+    if (to == nullptr) return put_fill_any(sink, c, n);
+    for (int i = 0; i < n; ++i) to[i] = c;
+    direct_done(sink, n);
+    return n;
+}
+
+// What __print_field does once it has measured its text: for printers
+// that know the length.
+int print_text(const format_spec *spec, _orv_sink *sink, const char *text, int length);
+
+// A run through the batch area, as __batch_put would take it byte by byte.
+int batch_run(void *stream, const char *text, int n);
 
 } // namespace orv::fmt
 

@@ -4,11 +4,7 @@
 // The six front ends: each builds a sink and calls the engine.
 namespace {
 
-int put_memory(int character, void *context) {
-    char *&cursor = *static_cast<char **>(context);
-    *cursor++ = static_cast<char>(character);
-    return 0;
-}
+using orv::fmt::put_memory;
 
 int to_stream(FILE *stream, const char *format, const void *arguments) {
     _orv_sink sink{stream, orv::fmt::fputc_put()};

@@ -2,19 +2,43 @@
 
 namespace {
 
-bool is_floating(char c) {
-    return c == 'g' || c == 'G' || c == 'f' || c == 'F' || c == 'e' || c == 'E';
-}
+// What a character of a conversion can be, looked up once.
+enum : unsigned char { flag_char = 1, digit_char = 2, integer_conv = 4, floating_conv = 8 };
 
-bool is_integer(char c) {
-    return c == 'd' || c == 'i' || c == 'o' || c == 'u' || c == 'x' || c == 'X';
-}
+struct Kinds {
+    unsigned char of[256];
+    constexpr Kinds() : of() {
+        mark(" #+-0", flag_char);
+        mark("0123456789", digit_char);
+        mark("diouxX", integer_conv);
+        mark("gGfFeE", floating_conv);
+    }
+    constexpr void mark(const char *chars, unsigned char bit) {
+        for (; *chars; ++chars) of[static_cast<unsigned char>(*chars)] |= bit;
+    }
+};
+constexpr Kinds kinds{};
+
+unsigned kind(char c) { return kinds.of[static_cast<unsigned char>(c)]; }
 
 // Digits accumulate with no overflow test, as they always have.
 const char *digits(const char *p, int &value) {
     unsigned v = 0;
-    while (*p >= '0' && *p <= '9') v = v * 10 + static_cast<unsigned>(*p++ - '0');
+    while (kind(*p) & digit_char) v = v * 10 + static_cast<unsigned>(*p++ - '0');
     value = static_cast<int>(v);
+    return p;
+}
+
+const char *flags(format_spec *spec, const char *p) {
+    for (; kind(*p) & flag_char; ++p) {
+        switch (*p) {
+        case ' ': spec->space = true; break;
+        case '#': spec->alternate = true; break;
+        case '+': spec->plus = true; break;
+        case '-': spec->right_justify = false; break;
+        default: spec->pad_blank = false; break;
+        }
+    }
     return p;
 }
 
@@ -25,23 +49,16 @@ const char *digits(const char *p, int &value) {
 // terminator, so nothing past the format is read.
 extern "C" const char *__parse_conversion(format_spec *spec, const char *p, orv::fmt::Arguments *arguments) {
     *spec = format_spec{};
-    for (;; ++p) {
-        if (*p == ' ') spec->space = true;
-        else if (*p == '#') spec->alternate = true;
-        else if (*p == '+') spec->plus = true;
-        else if (*p == '-') spec->right_justify = false;
-        else if (*p == '0') spec->pad_blank = false;
-        else break;
-    }
+    p = flags(spec, p);
     if (*p == '*') {
         int w = arguments->take<int>();
         if (w < 0) {
             spec->right_justify = false;
-            w = -w;
+            w = static_cast<int>(0u - static_cast<unsigned>(w));
         }
         spec->width = w;
         ++p;
-    } else if (*p >= '0' && *p <= '9') {
+    } else if (kind(*p) & digit_char) {
         p = digits(p, spec->width);
     }
     if (*p == '.') {
@@ -56,7 +73,7 @@ extern "C" const char *__parse_conversion(format_spec *spec, const char *p, orv:
     }
     if (p[0] == 'l' && p[1] == 'l') {
         p += 2;
-        (is_floating(*p) ? spec->quad_flag : spec->long_long) = true;
+        (kind(*p) & floating_conv ? spec->quad_flag : spec->long_long) = true;
     } else if (*p == 'l' || *p == 'L') {
         spec->long_flag = true;
         ++p;
@@ -66,11 +83,11 @@ extern "C" const char *__parse_conversion(format_spec *spec, const char *p, orv:
     }
     spec->conversion = *p;
     if (*p) ++p;
-    bool right = spec->right_justify;
-    if (!right && !spec->pad_blank) spec->pad_blank = true;
-    if (is_integer(spec->conversion)) {
+    unsigned k = kind(spec->conversion);
+    if (!spec->right_justify) spec->pad_blank = true;
+    if (k & integer_conv) {
         if (spec->precision >= 0) spec->pad_blank = true;
-    } else if (!is_floating(spec->conversion)) {
+    } else if (!(k & floating_conv)) {
         spec->numeric = false;
         spec->pad_blank = true;
     }

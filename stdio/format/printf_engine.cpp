@@ -58,9 +58,13 @@ int convert(format_spec *spec, _orv_sink *sink, Arguments &args, int count) {
 // Walks the format, handing characters one at a time to the sink.
 extern "C" ORV_EXPORT int _printf_(_orv_sink *sink, const char *format, const void *arguments) {
     if (format == nullptr) return 0;
-    FILE *stream = static_cast<FILE *>(sink->context);
-    if (sink->put == orv::fmt::fputc_put() && (stream->_flag & _IONBF)) sink->put = __batch_put;
+    if (sink->put == orv::fmt::fputc_put() && (static_cast<FILE *>(sink->context)->_flag & _IONBF))
+        sink->put = __batch_put;
+    // Only a batching call, this one or a record that an earlier call
+    // turned, can leave bytes in the batch area to flush.
+    bool batching = sink->put == __batch_put;
     Arguments args{static_cast<const unsigned char *>(arguments)};
+    format_spec spec;
     int count = 0;
     for (const char *p = format; *p;) {
         int n;
@@ -69,16 +73,15 @@ extern "C" ORV_EXPORT int _printf_(_orv_sink *sink, const char *format, const vo
             while (*p && *p != '%') ++p;
             n = orv::fmt::put_run(sink, run, static_cast<int>(p - run));
         } else {
-            format_spec spec;
             p = __parse_conversion(&spec, p + 1, &args);
             n = spec.conversion == 0 ? 0 : convert(&spec, sink, args, count);
         }
         if (n == -1) {
-            __flush_batch(sink->context);
-            return -1;
+            count = -1;
+            break;
         }
         count += n;
     }
-    __flush_batch(sink->context);
+    if (batching) __flush_batch(sink->context);
     return count;
 }

@@ -1,16 +1,20 @@
-#include "include/string.h"
+#include "clib/string/block.h"
 #include "stdio/stream/stream.h"
 
 using namespace orv::stdio;
 
 namespace orv::stdio {
 
+// What the inline step would take without a call: at most _cnt bytes.
+inline std::size_t inline_part(std::size_t want, const FILE *s) {
+    return s->_cnt <= 0 ? 0 : want < static_cast<std::size_t>(s->_cnt) ? want : static_cast<std::size_t>(s->_cnt);
+}
+
 std::size_t read_run(unsigned char *to, std::size_t want, FILE *s) {
     std::size_t done = 0;
     while (done < want) {
-        if (s->_cnt > 0) {
-            std::size_t run = want - done < static_cast<std::size_t>(s->_cnt) ? want - done : s->_cnt;
-            memcpy(to + done, s->_ptr, run);
+        if (std::size_t run = inline_part(want - done, s)) {
+            block::copy_up(to + done, s->_ptr, run);
             s->_ptr += run;
             s->_cnt -= static_cast<int>(run);
             done += run;
@@ -26,9 +30,8 @@ std::size_t read_run(unsigned char *to, std::size_t want, FILE *s) {
 std::size_t write_run(const unsigned char *from, std::size_t want, FILE *s) {
     std::size_t done = 0;
     while (done < want) {
-        if (s->_cnt > 0) {
-            std::size_t run = want - done < static_cast<std::size_t>(s->_cnt) ? want - done : s->_cnt;
-            memcpy(s->_ptr, from + done, run);
+        if (std::size_t run = inline_part(want - done, s)) {
+            block::copy_up(s->_ptr, from + done, run);
             s->_ptr += run;
             s->_cnt -= static_cast<int>(run);
             done += run;
@@ -44,9 +47,15 @@ std::size_t write_run(const unsigned char *from, std::size_t want, FILE *s) {
 
 namespace {
 
-// Items of any size, in runs that fit a size_t.
+// Items of any size. A request beyond 32 bits goes in runs that fit; the
+// buffer cannot hold it, so only a failure or the end of file stops it.
 template <class Run, class Byte>
 std::size_t transfer(Byte *buffer, std::size_t size, std::size_t count, FILE *s, Run run) {
+    std::size_t total;
+    if (!__builtin_mul_overflow(size, count, &total)) {
+        std::size_t got = run(buffer, total, s);
+        return got == total ? count : got / size;
+    }
     unsigned long long want = static_cast<unsigned long long>(size) * count, done = 0;
     while (done < want) {
         std::size_t piece = want - done > 0x40000000ULL ? 0x40000000u : static_cast<std::size_t>(want - done);

@@ -1,5 +1,6 @@
+#include "clib/string/block.h"
+#include "clib/string/scan.h"
 #include "include/errno.h"
-#include "include/string.h"
 #include "stdio/stream/stream.h"
 
 using namespace orv::stdio;
@@ -16,6 +17,24 @@ struct ErrnoGuard {
     }
 };
 
+// Copies bytes through the first LF among the first n, or all n; answers
+// the count. The line is looked at as it moves, two words a step.
+int copy_line(char *to, const unsigned char *from, int n) {
+    using orv::block::load, orv::block::store, orv::scan::zero_bytes;
+    constexpr std::uint32_t lfs = 0x0A0A0A0Au;
+    auto *d = reinterpret_cast<unsigned char *>(to);
+    int i = 0;
+    for (; i + 8 <= n; i += 8) {
+        std::uint32_t a = load(from + i), b = load(from + i + 4);
+        if (zero_bytes(a ^ lfs) | zero_bytes(b ^ lfs)) break;
+        store(d + i, a);
+        store(d + i + 4, b);
+    }
+    for (; i < n; ++i)
+        if ((d[i] = from[i]) == '\n') return i + 1;
+    return n;
+}
+
 // Up to `room` bytes through LF, taken as getc would take them: runs the
 // buffer holds are copied whole. Answers the bytes stored.
 int take_line(char *to, int room, FILE *s) {
@@ -23,13 +42,11 @@ int take_line(char *to, int room, FILE *s) {
     while (stored < room) {
         if (s->_cnt > 0) {
             int run = room - stored < s->_cnt ? room - stored : s->_cnt;
-            const void *lf = memchr(s->_ptr, '\n', static_cast<size_t>(run));
-            if (lf != nullptr) run = static_cast<int>(static_cast<const unsigned char *>(lf) - s->_ptr) + 1;
-            memcpy(to + stored, s->_ptr, static_cast<size_t>(run));
-            s->_ptr += run;
-            s->_cnt -= run;
-            stored += run;
-            if (lf != nullptr) break;
+            int done = copy_line(to + stored, s->_ptr, run);
+            s->_ptr += done;
+            s->_cnt -= done;
+            stored += done;
+            if (to[stored - 1] == '\n') break;
             continue;
         }
         int c = get(s);

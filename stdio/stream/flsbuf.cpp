@@ -13,6 +13,13 @@ extern "C" ORV_EXPORT int _flsbuf(int c, FILE *s) {
         errno = EBADF;
         return EOF;
     }
+    // A write that failed leaves its bytes in the buffer; once they fill it,
+    // there is no room for c, and storing it would go past the buffer.
+    if (s->_ptr >= a._limit) {
+        s->_flag |= _IOERR;
+        errno = EIO;
+        return EOF;
+    }
     *s->_ptr++ = static_cast<unsigned char>(c);
     s->_flag = static_cast<unsigned short>((s->_flag & ~_IOREAD) | _IOWRT);
     bool line = s->_flag & _IOLBF;

@@ -16,6 +16,16 @@ static void searches(void) {
     CHECK(memchr(text, -23, 9) == text + 8);
     CHECK(memchr(text, 'a', 0x80000000u) == 0); /* a signed count */
     CHECK(memchr(text, 'a', 0x7FFFFFFFu) == text);
+    int missed = 0;
+    for (unsigned at = 0; at < 8; ++at) /* every alignment, the match on every side of the end */
+        for (unsigned len = 0; len < 20; ++len)
+            for (unsigned hit = 0; hit < 24; ++hit) {
+                t_memset(area, 'a', 64);
+                area[at + hit] = '\n';
+                void *want = hit < len ? area + at + hit : 0;
+                missed += memchr(area + at, '\n', len) != want;
+            }
+    CHECK_EQ(missed, 0);
     CHECK_EQ(memcmp("\xFF", "\x01", 1), 254);
     CHECK_EQ(memcmp("a\0b", "a\0c", 3), -1);
     CHECK_EQ(memcmp("x", "y", 0), 0);

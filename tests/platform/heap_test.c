@@ -31,6 +31,16 @@ static int holds(const void *now, const void *was, unsigned n) {
         if (((const unsigned char *)now)[i] != pattern(was, i)) return 0;
     return 1;
 }
+/* The pattern on every 61st byte: enough to see a block that lost or
+   shares its pages, cheap enough for megabytes. */
+static void fill_sparse(unsigned char *p, const void *was, unsigned n) {
+    for (unsigned i = 0; i < n; i += 61) p[i] = pattern(was, i);
+}
+static int holds_sparse(const unsigned char *p, const void *was, unsigned n) {
+    int ok = 1;
+    for (unsigned i = 0; i < n; i += 61) ok &= p[i] == pattern(was, i);
+    return ok;
+}
 static int all_zero(const void *p, unsigned n) {
     for (unsigned i = 0; i < n; ++i)
         if (((const unsigned char *)p)[i] != 0) return 0;
@@ -189,6 +199,68 @@ static void failures(void) {
     CHECK_EQ(HeapFree(heap, 0, 0), 1);
 }
 
+/* Pages a large block gives back lie right behind it: it grows over them
+   again without moving. */
+static void large_in_place(void) {
+    HANDLE heap = GetProcessHeap();
+    t_section("a large block shrinks and grows again in place");
+    unsigned char *a = malloc(2 << 20);
+    fill(a, 2 << 20);
+    unsigned char *b = realloc(a, 200000);
+    CHECK(b == a);
+    unsigned was = HeapSize(heap, 0, b);
+    CHECK(was >= 200000 && was < 2 << 20);
+    /* The pages given back are dirty: what the block gains must be zeroed. */
+    unsigned char *c = HeapReAlloc(heap, HEAP_ZERO_MEMORY, b, 3 << 19);
+    CHECK(c == a);
+    CHECK(holds(c, a, was));
+    CHECK(all_zero(c + was, HeapSize(heap, 0, c) - was));
+    free(c);
+}
+
+/* Large blocks are cut from pages that earlier blocks gave back, grow over
+   freed neighbours and are stretched from smaller kept runs: whatever the
+   path, a live block keeps its bytes and no two live blocks share one. */
+static void large_reuse(void) {
+    HANDLE heap = GetProcessHeap();
+    t_section("large blocks over reused pages keep their bytes");
+    enum { LIVE = 40 };
+    unsigned char *blk[LIVE] = {0};
+    void *origin[LIVE];
+    unsigned len[LIVE] = {0};
+    int intact = 1, got = 1;
+    for (int step = 0; step < 3000; ++step) {
+        unsigned r = rng(), k = r % LIVE;
+        unsigned n = 65537 + (r >> 4) % ((r & 1) ? 1u << 18 : 1u << 20);
+        if (blk[k] != 0) intact &= holds_sparse(blk[k], origin[k], len[k]);
+        if (blk[k] != 0 && (r & 2)) {
+            unsigned char *q = realloc(blk[k], n);
+            got &= q != 0;
+            if (q == 0) continue;
+            if (n < len[k]) len[k] = n;
+            intact &= holds_sparse(q, origin[k], len[k]);
+            blk[k] = q;
+        } else {
+            free(blk[k]);
+            blk[k] = malloc(n);
+            got &= blk[k] != 0;
+            origin[k] = blk[k], len[k] = n;
+        }
+        fill_sparse(blk[k], origin[k], len[k]);
+    }
+    for (int k = 0; k < LIVE; ++k) intact &= blk[k] == 0 || holds_sparse(blk[k], origin[k], len[k]);
+    CHECK(got);
+    CHECK(intact);
+    int apart = 1;
+    for (int i = 0; i < LIVE; ++i)
+        for (int j = 0; j < i; ++j) {
+            unsigned char *lo = blk[i] < blk[j] ? blk[i] : blk[j], *hi = blk[i] < blk[j] ? blk[j] : blk[i];
+            apart &= lo + HeapSize(heap, 0, lo) <= hi;
+        }
+    CHECK(apart);
+    for (int k = 0; k < LIVE; ++k) free(blk[k]);
+}
+
 /* Rounds of mixed blocks freed in random order: the footprint must settle,
    and large blocks must go back to the system when freed. */
 static void memory_returns(void) {
@@ -283,11 +355,13 @@ static void threads(void) {
 }
 
 int main(void) {
+    large_in_place(); /* first, while the heap keeps no freed pages */
     distinct_blocks();
     zero_fill();
     resizing();
     failures();
     memory_returns();
+    large_reuse(); /* after memory_returns, whose footprint its peak would raise */
     threads();
     return t_finish();
 }

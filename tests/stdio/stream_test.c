@@ -139,6 +139,106 @@ static void block_and_line_io(void) {
     fclose(f);
 }
 
+/* Block and line operations move what the buffer holds as runs: they must
+   make the very descriptor calls, with the same counts, that the same bytes
+   make through putc and getc one by one, whatever the buffer. */
+enum { DATA = 5000, LOG = 6000 };
+static unsigned char data[DATA];
+static K32TraceEntry log_a[LOG], log_b[LOG];
+static const unsigned pieces[] = {1, 3, 700, 1, 1500, 57, 1024, 9, 2048, 4000};
+
+static int same_calls(unsigned na, unsigned nb) {
+    if (na != nb || na > LOG) return 0;
+    for (unsigned i = 0; i < na; ++i)
+        if (log_a[i].op != log_b[i].op || log_a[i].count != log_b[i].count || log_a[i].result != log_b[i].result)
+            return 0;
+    return 1;
+}
+
+/* Buffering 0: as opened; 1: a 7-byte buffer of the caller's; 2: line
+   buffered in 64 bytes; 3: unbuffered. */
+static FILE *open_buffered(const char *path, const char *mode, int how) {
+    static char small[7];
+    FILE *f = fopen(path, mode);
+    if (how == 1) setvbuf(f, small, _IOFBF, sizeof small);
+    if (how == 2) setvbuf(f, NULL, _IOLBF, 64);
+    if (how == 3) setvbuf(f, NULL, _IONBF, 0);
+    return f;
+}
+
+static void put_blocks(FILE *f, int with_fputs) {
+    unsigned at = 0;
+    for (unsigned i = 0; at < DATA; ++i) {
+        unsigned n = pieces[i % 10] < DATA - at ? pieces[i % 10] : DATA - at;
+        if (with_fputs) {
+            char piece[4001];
+            memcpy(piece, data + at, n);
+            piece[n] = 0;
+            fputs(piece, f);
+        } else {
+            fwrite(data + at, 1, n, f);
+        }
+        at += n;
+    }
+}
+
+static unsigned get_blocks(FILE *f, unsigned char *to, int with_fgets) {
+    unsigned at = 0;
+    for (unsigned i = 0;; ++i) {
+        unsigned n = pieces[i % 10];
+        if (with_fgets) {
+            if (!fgets((char *)to + at, (int)n + 1, f)) return at;
+            at += strlen((char *)to + at);
+        } else {
+            unsigned got = fread(to + at, 1, n, f);
+            at += got;
+            if (got < n) return at;
+        }
+    }
+}
+
+static void runs_make_byte_calls(void) {
+    t_section("block operations make the byte path's calls");
+    unsigned r = 1;
+    for (unsigned i = 0; i < DATA; ++i) {
+        r = r * 1103515245u + 12345u;
+        data[i] = (r >> 16) % 9 == 0 ? '\n' : 'A' + (r >> 16) % 26;
+    }
+    static unsigned char back[DATA + 8], want[DATA + 8];
+    int calls = 1, bytes = 1;
+    for (int how = 0; how < 4; ++how)
+        for (int text = 0; text < 2; ++text)
+            for (int line_ops = 0; line_ops < 2; ++line_ops) {
+                FILE *f = open_buffered("ra.txt", text ? "w" : "wb", how);
+                k32_trace_start(log_a, LOG);
+                for (unsigned i = 0; i < DATA; ++i) putc(data[i], f);
+                fclose(f);
+                unsigned na = k32_trace_stop();
+                f = open_buffered("rb.txt", text ? "w" : "wb", how);
+                k32_trace_start(log_b, LOG);
+                put_blocks(f, line_ops);
+                fclose(f);
+                calls &= same_calls(na, k32_trace_stop());
+                int la = t_read_file("ra.txt", want, sizeof want), lb = t_read_file("rb.txt", back, sizeof back);
+                bytes &= la == lb && t_memeq(want, back, (unsigned)la);
+
+                f = open_buffered("ra.txt", text ? "r" : "rb", how);
+                k32_trace_start(log_a, LOG);
+                unsigned n = 0;
+                for (int c; (c = getc(f)) != EOF;) want[n++] = (unsigned char)c;
+                fclose(f);
+                na = k32_trace_stop();
+                f = open_buffered("ra.txt", text ? "r" : "rb", how);
+                k32_trace_start(log_b, LOG);
+                unsigned m = get_blocks(f, back, line_ops);
+                fclose(f);
+                calls &= same_calls(na, k32_trace_stop());
+                bytes &= n == DATA && m == n && t_memeq(want, back, n) && t_memeq(want, data, n);
+            }
+    CHECK(calls);
+    CHECK(bytes);
+}
+
 static void positions_and_pushback(void) {
     t_section("positions and push-back");
     FILE *f = reopen_with("a\r\nb\r\nc\r\n", "r");
@@ -204,6 +304,27 @@ static void failures(void) {
     CHECK_EQ(errno, EBADF);
     CHECK_EQ(fflush(f), -1);
 
+    /* A failed write of a full buffer leaves its bytes there: the next
+       store has no room and fails, rather than store past the buffer, and
+       a flush writes the bytes that were held. */
+    static char area[12];
+    t_memset(area, '#', sizeof area);
+    f = fopen("e.bin", "wb");
+    setvbuf(f, area, _IOFBF, 8);
+    k32_fail_call(K32_WriteFile, 1);
+    for (int i = 0; i < 7; ++i) putc('a' + i, f);
+    CHECK_EQ(putc('h', f), EOF);
+    errno = 0;
+    CHECK_EQ(putc('i', f), EOF);
+    CHECK_EQ(errno, EIO);
+    CHECK_MEM(area + 8, 4, "####", 4);
+    CHECK_EQ(fflush(f), 0);
+    clearerr(f);
+    CHECK_EQ(putc('j', f), 'j');
+    fclose(f);
+    CHECK_EQ(t_read_file("e.bin", buf, sizeof buf), 9);
+    CHECK_MEM(buf, 9, "abcdefghj", 9);
+
     f = reopen_with("data", "r");
     k32_fail_call(K32_ReadFile, 1);
     CHECK_EQ(getc(f), EOF);
@@ -226,6 +347,7 @@ int main(void) {
     modes();
     buffer_rules();
     block_and_line_io();
+    runs_make_byte_calls();
     positions_and_pushback();
     failures();
     return t_finish();
