@@ -1,11 +1,13 @@
 // What the block moves share. memcpy, memmove and memset themselves are
 // written for the processor (memmove.S, memset.S); what they hand on, and
-// memcmp, is here.
+// the word access and short copy that other parts of the library inline,
+// is here.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 
+#include "include/string.h"
 #include "runtime/export.h"
 
 namespace orv::block {
@@ -14,6 +16,23 @@ using byte = unsigned char;
 
 // A word read or written at any address, without aliasing assumptions.
 using word = std::uint32_t __attribute__((may_alias, aligned(1)));
+
+inline std::uint32_t load(const byte *p) { return *reinterpret_cast<const word *>(p); }
+inline void store(byte *p, std::uint32_t v) { *reinterpret_cast<word *>(p) = v; }
+
+// An upward copy for the streams and the format engine, inlined where runs
+// are mostly short: under 8 bytes byte by byte, up to 16 as four words that
+// may overlap, longer ones through memcpy.
+[[gnu::always_inline]] inline void copy_up(byte *d, const byte *s, std::size_t n) {
+    if (n < 8) {
+        for (; n != 0; --n) *d++ = *s++;
+    } else if (n <= 16) {
+        std::uint32_t a = load(s), b = load(s + 4), c = load(s + n - 8), e = load(s + n - 4);
+        store(d, a), store(d + 4, b), store(d + n - 8, c), store(d + n - 4, e);
+    } else {
+        memcpy(d, s, n);
+    }
+}
 
 inline void string_move(byte *d, const byte *s, std::size_t n) {
     __asm__ volatile("rep movsb" : "+D"(d), "+S"(s), "+c"(n) : : "memory");

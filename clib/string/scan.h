@@ -36,6 +36,16 @@ inline const char *next_block(const char *p) {
     return reinterpret_cast<const char *>((reinterpret_cast<std::uintptr_t>(p) + block) & ~std::uintptr_t{block - 1});
 }
 
+// The aligned word that holds p, which lies wholly in p's page, and a mask
+// that makes the bytes of that word before p non-zero.
+using word = std::uint32_t __attribute__((may_alias));
+inline const word *word_of(const void *p) {
+    return reinterpret_cast<const word *>(reinterpret_cast<std::uintptr_t>(p) & ~std::uintptr_t{3});
+}
+inline std::uint32_t before_mask(const void *p) {
+    return (1u << ((reinterpret_cast<std::uintptr_t>(p) & 3) * 8)) - 1;
+}
+
 inline std::uint32_t load(const char *p) { return *reinterpret_cast<const any_word *>(p); }
 
 // The words of a block found interesting are read again rather than kept:
