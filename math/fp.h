@@ -130,7 +130,7 @@ inline double trunc_small(double u) {
 // The same for a value known to be positive.
 inline double trunc_small_pos(double u) {
     constexpr double kRound = 6755399441055744.0;
-    constexpr double kDown[2] = {0.0, 1.0};
+    static constexpr double kDown[2] = {0.0, 1.0};
     const double r = (u + kRound) - kRound;
     return r - kDown[r > u];
 }
@@ -167,11 +167,12 @@ inline double fpatan(double y, double x) {
     return r;
 }
 
-// Exact powers of two for scaling in registers: 2^(64i - 1040) and 2^j.
-// Writing integer words and reading them back as a double stalls the
-// processor's store forwarding; two multiplications by exact powers of two
-// give the same result whenever it is a normal number.
-extern const double pow2_coarse[33];
+// Exact powers of two for scaling in registers: 2^(64i - 1040), then the
+// same negated (at 33 + i), and 2^j. Writing integer words and reading them
+// back as a double stalls the processor's store forwarding; two
+// multiplications by exact powers of two give the same result whenever it
+// is a normal number.
+extern const double pow2_coarse[66];
 extern const double pow2_fine[64];
 
 // x times 2^k, for k in [-1040, 1071]; the product of x by the fine factor
@@ -179,6 +180,43 @@ extern const double pow2_fine[64];
 inline double scale2(double x, int k) {
     const unsigned i = static_cast<unsigned>(k + 1040);
     return x * pow2_fine[i & 63] * pow2_coarse[i >> 6];
+}
+
+// A double argument as the caller left it on the stack: its two words.
+// Callers often push a double argument as two 32-bit words, and an 8-byte
+// load cannot be forwarded from two stores: it waits until they retire,
+// which chains each call behind the whole of the one before. The hot
+// functions therefore take their argument as words, under the exported
+// name, and build the value in the registers.
+struct arg64 {
+    u32 lo, hi;
+};
+static_assert(sizeof(arg64) == 8);
+
+// The integer at v, loaded onto the register stack.
+inline double fild(const i32 &v) {
+    double r;
+    __asm__("fildl %1" : "=t"(r) : "m"(v));
+    return r;
+}
+
+// The value of a double whose exponent field lies in [35, 0x7FE], from its
+// words: the 53-bit significand as two exact integer loads (FILD reads the
+// low word as signed, which one carry into the high part makes up for),
+// then the exponent and the sign as exact powers of two.
+inline double normal_value(const arg64 &a) {
+    const i32 top = static_cast<i32>((a.hi & 0xFFFFF) | 0x100000) + static_cast<i32>(a.lo >> 31);
+    const double v = fild(top) * 4294967296.0 + fild(reinterpret_cast<const i32 &>(a.lo));
+    const unsigned i = ((a.hi >> 20) & 0x7FF) - 1075 + 1040;
+    return v * pow2_fine[i & 63] * pow2_coarse[(i >> 6) + 33 * (a.hi >> 31)];
+}
+
+// The value of any double from its words: through the registers when it is
+// normal and not tiny, through memory otherwise (zeros, denormals,
+// infinities and NaNs keep their exact bits that way).
+inline double value(const arg64 &a) {
+    if (((a.hi >> 20) & 0x7FF) - 35u < 0x7FF - 35u) return normal_value(a);
+    return from_words(a.hi, a.lo);
 }
 
 // Truncation to an integral value on the bits alone.

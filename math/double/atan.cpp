@@ -6,7 +6,10 @@
 
 using namespace orv::m;
 
-extern "C" ORV_EXPORT double atan(double x) {
+extern "C" ORV_EXPORT double atan_words(arg64 w) __asm__("atan");
+
+double atan_words(arg64 w) {
+    double x = value(w);
     const bool negative = gt(0.0, x);
     if (negative) x = -x;
     int n = 0;

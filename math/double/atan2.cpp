@@ -1,11 +1,13 @@
 // The quadrant from the signs, the angle from the processor's FPATAN.
-#include "include/math.h"
 #include "math/fp.h"
 #include "runtime/export.h"
 
 using namespace orv::m;
 
-extern "C" ORV_EXPORT double atan2(double y, double x) {
+extern "C" ORV_EXPORT double atan2_words(arg64 yw, arg64 xw) __asm__("atan2");
+
+double atan2_words(arg64 yw, arg64 xw) {
+    const double y = value(yw), x = value(xw);
     if (eq(x, 0.0)) {  // a NaN x counts as zero
         if (eq(y, 0.0)) return domain_error(0.0);
         return lt(y, 0.0) ? -1.5707963267948966 : 1.5707963267948966;
@@ -13,7 +15,7 @@ extern "C" ORV_EXPORT double atan2(double y, double x) {
     const double r = round53(fpatan(absd(y / x), 1.0));
     // pi - r for x < 0, then -r when the sign bit of y is set (-0 counts
     // as negative): as products by 1 and -1, exact, without a branch.
-    constexpr double base[2] = {0.0, 3.141592653589793};
+    static constexpr double base[2] = {0.0, 3.141592653589793};
     const unsigned left = lt(x, 0.0);
-    return (base[left] + r * kSign[left]) * kSign[hi(y) >> 31];
+    return (base[left] + r * kSign[left]) * kSign[yw.hi >> 31];
 }

@@ -19,58 +19,50 @@ constexpr double kA2[8] = {
 
 double a1(int j) { return table(pow_a1, j); }
 
-// The value truncated to a multiple of 1/16.
-double reduce(double v) {
+// The binary search for the odd p with A1[p+1] < g <= A1[p-1], done by
+// lookup: for each 1/128 of [0.5, 1), the largest even j <= 14 with A1[j]
+// at or above the bucket's low end. Entries of A1 lie further apart than a
+// bucket, so within it the search ends at that j or at j - 2. Bit patterns
+// of positive doubles order as their values.
+struct Buckets {
+    unsigned char j[64];
+};
+constexpr Buckets kBuckets = [] {
+    Buckets b{};
+    for (int i = 0; i < 64; ++i) {
+        const u64 low = 0x3FE0000000000000 | (u64(i) << 46);
+        int j = 14;
+        while (pow_a1[j] < low) j -= 2;
+        b.j[i] = static_cast<unsigned char>(j);
+    }
+    return b;
+}();
+
+int search(u64 g) {
+    const int j = kBuckets.j[(g >> 46) & 63];
+    return j - 2 * static_cast<int>(g > pow_a1[j]) + 1;
+}
+
+// The value truncated to a multiple of 1/16, by the conversion of the
+// method: -2147483648 sixteenths when out of range.
+double reduce_any(double v) {
     i32 n;
     return trunc_i32(16.0 * v, &n) * 0.0625;
 }
 
-// Whether y, of unbiased exponent e >= 0, has no bit below the binary point.
-bool integral(double y, int e) {
-    if (e >= 52) return true;
-    return (bits(y) & ((u64(1) << (52 - e)) - 1)) == 0;
-}
+// The same for |16 v| < 2^31, in the registers.
+double reduce_small(double v) { return trunc_small(16.0 * v) * 0.0625; }
 
-}  // namespace
-
-extern "C" ORV_EXPORT double pow(double x, double y) {
-    if (eq(y, 0.0)) return 1.0;  // y NaN too
-    if (eq(x, 1.0)) return x;    // a NaN x comes back
-
-    // Integer powers by repeated squaring.
-    const u32 yh = hi(y), yl = lo(y);
-    const int e = exp_field(y) - 1023;
-    if (yl == 0) {
-        if (e >= 0 && ((e < 31 && (yh & 0xFFFFF) == 0) || (e < 21 && integral(y, e))))
-            return __orvane_dtoi_c(x, to_i32(y));
-    } else if (e > 20 && e < 31 && integral(y, e)) {
-        return __orvane_dtoi_c(x, to_i32(y));
-    }
-    if (lt(x, 0.0) && e >= 31 && integral(y, e)) x = -x;  // result stays positive
-
-    bool negate = false;
-    if (!gt(x, 0.0)) {
-        if (lt(x, 0.0)) {
-            const i32 k = to_i32(y);
-            if (ne(static_cast<double>(k), y)) return domain_error(kDoubleNan);
-            x = -x;
-            negate = k & 1;
-        } else {
-            if (ge(y, 0.0)) return 0.0;
-            return domain_error(kDoubleInf);
-        }
-    }
-
-    // log2 x = m - p/16 + log2(g / A1[p]), g in [0.5, 1).
-    const int field = exp_field(x);
-    const int m = field - 1022;
-    // Denormals and infinities by their bits: neither is normalised.
-    const double g = field == 0 || field == 0x7FF ? with_exp_field(x, 0x3FE) : scale2(x, -m);
-    int p = 0;
-    if (ge(a1(8), g)) p = 8;
-    if (ge(a1(p + 4), g)) p += 4;
-    if (ge(a1(p + 2), g)) p += 2;
-    p += 1;
+// Steps from the logarithm on, for a positive x given by its words (an
+// infinity or a denormal reads as its fields stand).
+template <double (*reduce)(double)>
+double positive_power(const arg64 &x, double y) {
+    // log2 x = m - p/16 + log2(g / A1[p]), g in [0.5, 1): g is x with the
+    // exponent field 0x3FE, denormals not normalised.
+    const int m = static_cast<int>(x.hi >> 20) - 1022;
+    const i32 top = static_cast<i32>((x.hi & 0xFFFFF) | 0x100000) + static_cast<i32>(x.lo >> 31);
+    const double g = (fild(top) * 4294967296.0 + fild(reinterpret_cast<const i32 &>(x.lo))) * 0x1p-53;
+    const int p = search((u64(0x3FE00000 | (x.hi & 0xFFFFF)) << 32) | x.lo);
     const double z = 2.0 * ((g - a1(p)) - kA2[(p - 1) / 2]) / (g + a1(p));
     const double v = z * z;
     const double r = z * v *
@@ -95,7 +87,7 @@ extern "C" ORV_EXPORT double pow(double x, double y) {
     if (i > 16382) return kDoubleInf;
     if (i < -16350) return 0.0;  // also every conversion out of range above
     // Unless 0 > W2, one sixteenth moves from W2 to I; without a branch.
-    constexpr double sixteenth[2] = {0.0, 0.0625};
+    static constexpr double sixteenth[2] = {0.0, 0.0625};
     const unsigned move = !gt(0.0, w2);
     w2 = w2 - sixteenth[move];
     i += static_cast<i32>(move);
@@ -105,6 +97,61 @@ extern "C" ORV_EXPORT double pow(double x, double y) {
                                 0.0013333541313585784) * w2 + 0.009618129059517241) * w2 +
                               0.055504108664085595) * w2 + 0.24022650695909537) * w2 +
                             0.6931471805599453);
-    const double res = scale2(a1(pp) + zz * a1(pp), big_m);
-    return negate ? -res : res;
+    return scale2(a1(pp) + zz * a1(pp), big_m);
+}
+
+// Whether y, of unbiased exponent e >= 0, has no bit below the binary point.
+bool integral(const arg64 &y, int e) {
+    if (e >= 52) return true;
+    return ((u64(y.hi & 0xFFFFF) << 32 | y.lo) & ((u64(1) << (52 - e)) - 1)) == 0;
+}
+
+// Every case, as the method takes them one by one.
+[[gnu::noinline]] double general_power(const arg64 &xw, const arg64 &yw) {
+    double x = value(xw);
+    const double y = value(yw);
+    if (eq(y, 0.0)) return 1.0;  // y NaN too
+    if (eq(x, 1.0)) return x;    // a NaN x comes back
+
+    // Integer powers by repeated squaring.
+    const int e = static_cast<int>((yw.hi >> 20) & 0x7FF) - 1023;
+    if (yw.lo == 0) {
+        if (e >= 0 && ((e < 31 && (yw.hi & 0xFFFFF) == 0) || (e < 21 && integral(yw, e))))
+            return __orvane_dtoi_c(x, to_i32(y));
+    } else if (e > 20 && e < 31 && integral(yw, e)) {
+        return __orvane_dtoi_c(x, to_i32(y));
+    }
+    if (lt(x, 0.0) && e >= 31 && integral(yw, e)) x = -x;  // result stays positive
+
+    bool negate = false;
+    if (!gt(x, 0.0)) {
+        if (lt(x, 0.0)) {
+            const i32 k = to_i32(y);
+            if (ne(static_cast<double>(k), y)) return domain_error(kDoubleNan);
+            x = -x;
+            negate = k & 1;
+        } else {
+            if (ge(y, 0.0)) return 0.0;
+            return domain_error(kDoubleInf);
+        }
+    }
+    const double r = positive_power<reduce_any>(arg64{lo(x), hi(x)}, y);
+    return negate ? -r : r;
+}
+
+}  // namespace
+
+extern "C" ORV_EXPORT double pow_words(arg64 x, arg64 y) __asm__("pow");
+
+double pow_words(arg64 x, arg64 y) {
+    // The common case first: x positive, finite and not 1; y nonzero and
+    // below 2^15 in magnitude, where no conversion of the method leaves
+    // the 32-bit range, and not a whole number of 1 or more.
+    const u32 ey = (y.hi >> 20) & 0x7FF;
+    const bool x_plain = x.hi - 1 < 0x7FF00000 - 1 || (x.hi == 0 && x.lo != 0);
+    const bool y_whole = ey >= 0x3FF && integral(y, static_cast<int>(ey) - 1023);
+    if (x_plain && !(x.hi == 0x3FF00000 && x.lo == 0) && ey < 0x3FF + 15 &&
+        ((y.hi << 1) | y.lo) != 0 && !y_whole)
+        return positive_power<reduce_small>(x, value(y));
+    return general_power(x, y);
 }

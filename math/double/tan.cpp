@@ -1,12 +1,14 @@
 // Reduction by multiples of pi/2 on the signed argument, then a rational
 // kernel whose numerator and denominator swap on odd quadrants.
-#include "include/math.h"
 #include "math/fp.h"
 #include "runtime/export.h"
 
 using namespace orv::m;
 
-extern "C" ORV_EXPORT double tan(double x) {
+extern "C" ORV_EXPORT double tan_words(arg64 w) __asm__("tan");
+
+double tan_words(arg64 w) {
+    const double x = value(w);
     if (!ge(149078417.58088, absd(x))) return 0.0;
     // |x| 2/pi + 1/2 stays below 10^8 here; the sign does not change the
     // parity of n.
