@@ -61,17 +61,17 @@ inline double range_error(double r) { errno = ERANGE; return r; }
 // swap the operands nor fold the test under IEEE rules.
 inline bool lt(double a, double b) {
     bool r;
-    __asm__("fucomi %%st(1), %%st" : "=@ccb"(r) : "t"(a), "u"(b) : "cc");
+    __asm__("fucomi %2, %%st" : "=@ccb"(r) : "t"(a), "f"(b) : "cc");
     return r;
 }
 inline bool le(double a, double b) {
     bool r;
-    __asm__("fucomi %%st(1), %%st" : "=@ccbe"(r) : "t"(a), "u"(b) : "cc");
+    __asm__("fucomi %2, %%st" : "=@ccbe"(r) : "t"(a), "f"(b) : "cc");
     return r;
 }
 inline bool eq(double a, double b) {
     bool r;
-    __asm__("fucomi %%st(1), %%st" : "=@ccz"(r) : "t"(a), "u"(b) : "cc");
+    __asm__("fucomi %2, %%st" : "=@ccz"(r) : "t"(a), "f"(b) : "cc");
     return r;
 }
 inline bool gt(double a, double b) { return !le(a, b); }
@@ -115,6 +115,21 @@ inline i32 integral_to_i32(double x) {
     return r;
 }
 
+// Trips through memory each want a word of their own. When two trips of
+// one call go through the same word, the processor mispredicts which store
+// a later load reads from, at tens of cycles a call, and the compiler
+// shares stack words freely. A kernel that makes several trips keeps one
+// Trips and names a word for each (the overloads below).
+struct Trips {
+    float f[3];
+    i32 n[3];
+};
+
+inline i32 integral_to_i32(double x, i32 &word) {
+    __asm__("fistl %0" : "=m"(word) : "t"(x));
+    return word;
+}
+
 // Truncation of a value the caller knows to lie within (-2^31, 2^31),
 // without leaving the registers: 1.5 * 2^52 added and taken away rounds to
 // an integer at 53-bit precision, and a step toward zero corrects the
@@ -135,6 +150,14 @@ inline double trunc_small_pos(double u) {
     return r - kDown[r > u];
 }
 
+// -x when the flag is set, else x, without a branch. Negation flips the
+// sign of a NaN too, which a product by -1 would not.
+inline double negate_if(double x, unsigned flag) {
+    const double n = -x;
+    __asm__("testl %2, %2\n\tfcmovne %1, %%st" : "+t"(x) : "f"(n), "r"(flag) : "cc");
+    return x;
+}
+
 // 1 and -1 by a flag, to set a sign by multiplication rather than a branch.
 inline constexpr double kSign[2] = {1.0, -1.0};
 inline constexpr double kHalf[2] = {-0.5, 0.5};
@@ -145,6 +168,11 @@ inline float to_float(double x) {
     float f = static_cast<float>(x);
     __asm__("" : "+m"(f));
     return f;
+}
+inline float to_float(double x, float &word) {
+    word = static_cast<float>(x);
+    __asm__("" : "+m"(word));
+    return word;
 }
 
 // A register value rounded to the 53 bits of a double: an addition of zero
@@ -218,6 +246,33 @@ inline double value(const arg64 &a) {
     if (((a.hi >> 20) & 0x7FF) - 35u < 0x7FF - 35u) return normal_value(a);
     return from_words(a.hi, a.lo);
 }
+
+// The binary search of pow and powf for the odd p with A1[p+1] < g <=
+// A1[p-1] (A1[j] = 2^(-j/16), g in [0.5, 1)), done by lookup on the bit
+// patterns, which order as the values: for each 1/128 of [0.5, 1), the
+// largest even j <= 14 with A1[j] at or above the bucket's low end. Entries
+// of A1 lie further apart than a bucket, so within it the search ends at
+// that j or at j - 2.
+template <typename Bits, int kFraction>
+class PowSearch {
+  public:
+    constexpr explicit PowSearch(const Bits *a1) : a1_(a1), j_() {
+        for (int i = 0; i < 64; ++i) {
+            const Bits low = a1[16] | (Bits(i) << (kFraction - 6));  // a1[16] is 0.5
+            int j = 14;
+            while (a1[j] < low) j -= 2;
+            j_[i] = static_cast<unsigned char>(j);
+        }
+    }
+    int operator()(Bits g) const {
+        const int j = j_[(g >> (kFraction - 6)) & 63];
+        return j - 2 * static_cast<int>(g > a1_[j]) + 1;
+    }
+
+  private:
+    const Bits *a1_;
+    unsigned char j_[64];
+};
 
 // Truncation to an integral value on the bits alone.
 double dint(double x);

@@ -13,9 +13,9 @@ double atan2_words(arg64 yw, arg64 xw) {
         return lt(y, 0.0) ? -1.5707963267948966 : 1.5707963267948966;
     }
     const double r = round53(fpatan(absd(y / x), 1.0));
-    // pi - r for x < 0, then -r when the sign bit of y is set (-0 counts
-    // as negative): as products by 1 and -1, exact, without a branch.
+    // pi - r for x < 0, as 0 + r or pi + r times -1, exact; then -r when
+    // the sign bit of y is set (-0 counts as negative). Without a branch.
     static constexpr double base[2] = {0.0, 3.141592653589793};
     const unsigned left = lt(x, 0.0);
-    return (base[left] + r * kSign[left]) * kSign[yw.hi >> 31];
+    return negate_if(base[left] + r * kSign[left], yw.hi >> 31);
 }

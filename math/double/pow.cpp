@@ -19,29 +19,7 @@ constexpr double kA2[8] = {
 
 double a1(int j) { return table(pow_a1, j); }
 
-// The binary search for the odd p with A1[p+1] < g <= A1[p-1], done by
-// lookup: for each 1/128 of [0.5, 1), the largest even j <= 14 with A1[j]
-// at or above the bucket's low end. Entries of A1 lie further apart than a
-// bucket, so within it the search ends at that j or at j - 2. Bit patterns
-// of positive doubles order as their values.
-struct Buckets {
-    unsigned char j[64];
-};
-constexpr Buckets kBuckets = [] {
-    Buckets b{};
-    for (int i = 0; i < 64; ++i) {
-        const u64 low = 0x3FE0000000000000 | (u64(i) << 46);
-        int j = 14;
-        while (pow_a1[j] < low) j -= 2;
-        b.j[i] = static_cast<unsigned char>(j);
-    }
-    return b;
-}();
-
-int search(u64 g) {
-    const int j = kBuckets.j[(g >> 46) & 63];
-    return j - 2 * static_cast<int>(g > pow_a1[j]) + 1;
-}
+constexpr PowSearch<u64, 52> search(pow_a1);
 
 // The value truncated to a multiple of 1/16, by the conversion of the
 // method: -2147483648 sixteenths when out of range.
