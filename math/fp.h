@@ -228,13 +228,20 @@ inline double fild(const i32 &v) {
     return r;
 }
 
+// An integer as a double, through the given word.
+inline double to_double(i32 v, i32 &word) {
+    word = v;
+    return fild(word);
+}
+
 // The value of a double whose exponent field lies in [35, 0x7FE], from its
 // words: the 53-bit significand as two exact integer loads (FILD reads the
 // low word as signed, which one carry into the high part makes up for),
-// then the exponent and the sign as exact powers of two.
-inline double normal_value(const arg64 &a) {
-    const i32 top = static_cast<i32>((a.hi & 0xFFFFF) | 0x100000) + static_cast<i32>(a.lo >> 31);
-    const double v = fild(top) * 4294967296.0 + fild(reinterpret_cast<const i32 &>(a.lo));
+// then the exponent and the sign as exact powers of two. The high part
+// makes its trip through memory in the given word.
+inline double normal_value(const arg64 &a, i32 &word) {
+    word = static_cast<i32>((a.hi & 0xFFFFF) | 0x100000) + static_cast<i32>(a.lo >> 31);
+    const double v = fild(word) * 4294967296.0 + fild(reinterpret_cast<const i32 &>(a.lo));
     const unsigned i = ((a.hi >> 20) & 0x7FF) - 1075 + 1040;
     return v * pow2_fine[i & 63] * pow2_coarse[(i >> 6) + 33 * (a.hi >> 31)];
 }
@@ -242,8 +249,8 @@ inline double normal_value(const arg64 &a) {
 // The value of any double from its words: through the registers when it is
 // normal and not tiny, through memory otherwise (zeros, denormals,
 // infinities and NaNs keep their exact bits that way).
-inline double value(const arg64 &a) {
-    if (((a.hi >> 20) & 0x7FF) - 35u < 0x7FF - 35u) return normal_value(a);
+inline double value(const arg64 &a, i32 &word) {
+    if (((a.hi >> 20) & 0x7FF) - 35u < 0x7FF - 35u) return normal_value(a, word);
     return from_words(a.hi, a.lo);
 }
 

@@ -5,4 +5,7 @@ using namespace orv::m;
 
 extern "C" ORV_EXPORT double acos_words(arg64 x) __asm__("acos");
 
-double acos_words(arg64 x) { return asinacos_kernel(value(x), 1); }
+double acos_words(arg64 x) {
+    Trips trips;
+    return asinacos_kernel(value(x, trips.n[0]), 1);
+}

@@ -5,4 +5,7 @@ using namespace orv::m;
 
 extern "C" ORV_EXPORT double asin_words(arg64 x) __asm__("asin");
 
-double asin_words(arg64 x) { return asinacos_kernel(value(x), 0); }
+double asin_words(arg64 x) {
+    Trips trips;
+    return asinacos_kernel(value(x, trips.n[0]), 0);
+}

@@ -9,7 +9,8 @@ using namespace orv::m;
 extern "C" ORV_EXPORT double atan_words(arg64 w) __asm__("atan");
 
 double atan_words(arg64 w) {
-    double x = value(w);
+    Trips trips;
+    double x = value(w, trips.n[0]);
     const bool negative = gt(0.0, x);
     if (negative) x = -x;
     int n = 0;

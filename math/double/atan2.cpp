@@ -7,7 +7,8 @@ using namespace orv::m;
 extern "C" ORV_EXPORT double atan2_words(arg64 yw, arg64 xw) __asm__("atan2");
 
 double atan2_words(arg64 yw, arg64 xw) {
-    const double y = value(yw), x = value(xw);
+    Trips trips;
+    const double y = value(yw, trips.n[0]), x = value(xw, trips.n[1]);
     if (eq(x, 0.0)) {  // a NaN x counts as zero
         if (eq(y, 0.0)) return domain_error(0.0);
         return lt(y, 0.0) ? -1.5707963267948966 : 1.5707963267948966;

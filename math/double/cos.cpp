@@ -5,4 +5,7 @@ using namespace orv::m;
 
 extern "C" ORV_EXPORT double cos_words(arg64 x) __asm__("cos");
 
-double cos_words(arg64 x) { return sincos_kernel(value(x), 1); }
+double cos_words(arg64 x) {
+    Trips trips;
+    return sincos_kernel(value(x, trips.n[0]), 1);
+}

@@ -7,7 +7,8 @@ using namespace orv::m;
 extern "C" ORV_EXPORT double cosh_words(arg64 w) __asm__("cosh");
 
 double cosh_words(arg64 w) {
-    const double x = value(w);
+    Trips trips;
+    const double x = value(w, trips.n[0]);
     const double z = exp_kernel(absd(x));
     return (z + 1.0 / z) * 0.5;
 }

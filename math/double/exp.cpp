@@ -5,4 +5,7 @@ using namespace orv::m;
 
 extern "C" ORV_EXPORT double exp_words(arg64 x) __asm__("exp");
 
-double exp_words(arg64 x) { return exp_kernel(value(x)); }
+double exp_words(arg64 x) {
+    Trips trips;
+    return exp_kernel(value(x, trips.n[0]));
+}

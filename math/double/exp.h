@@ -10,10 +10,11 @@ namespace orv::m {
 inline double exp_kernel(double x) {
     if (!ge(709.089565712824, x)) return range_error(kDoubleInf);  // also NaN
     if (gt(-708.396418532264, x)) return 0.0;
+    Trips trips;
     const double t = x * 1.4426950408889634;
     // Nearest, ties away from zero; |t| stays below 1100 here.
     const double xn = trunc_small(t + kHalf[ge(t, 0.0)]);
-    const i32 n = integral_to_i32(xn);
+    const i32 n = integral_to_i32(xn, trips.n[0]);
     // 0.693359375 has 9 significant bits, so xn times it is exact.
     const double g = (x - xn * 0.693359375) - xn * -0.00021219444005469057;
     const double z = g * g;

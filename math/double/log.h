@@ -27,6 +27,7 @@ inline double log_near_one(double x) {
 // The table step for m = exponent field - 1023 and the fraction bits of x,
 // read as if the hidden bit were set (so denormals are not normalised).
 inline double log_table(const arg64 &x) {
+    Trips trips;
     const i32 m = static_cast<i32>(x.hi >> 20) - 1023;
     // j: the top 7 fraction bits; f = Y - F, exact, is the fraction below
     // them. Above 2^-8 F moves up to the next multiple of 1/128 and f goes
@@ -36,8 +37,9 @@ inline double log_table(const arg64 &x) {
     const u32 up = (low13 > 0x1000) | ((low13 == 0x1000) & (x.lo != 0));
     const int j = static_cast<int>(((x.hi >> 13) & 0x7F) + up);
     const i32 top = static_cast<i32>(low13 - (up << 13)) + static_cast<i32>(x.lo >> 31);
-    const double f = (fild(top) * 4294967296.0 + fild(reinterpret_cast<const i32 &>(x.lo))) * 0x1p-52;
-    const double md = fild(m);
+    const double f = (to_double(top, trips.n[0]) * 4294967296.0 +
+                      fild(reinterpret_cast<const i32 &>(x.lo))) * 0x1p-52;
+    const double md = to_double(m, trips.n[1]);
     const double u = table(log_inv, j) * f;
     const double a = md * table(log_lead, 128) + table(log_lead, j);
     const double b = md * table(log_trail, 128) + table(log_trail, j);
@@ -48,12 +50,13 @@ inline double log_table(const arg64 &x) {
 }
 
 inline double log_kernel(const arg64 &w) {
+    Trips trips;
     const u64 b = (u64(w.hi) << 32) | w.lo;
     // Positive and finite, denormals included: the table step, or near 1
     // (between exp(-1/16) and exp(1/16), bounds excluded) its own kernel.
     if (b - 1 < 0x7FF0000000000000 - 1) {
         if (b - 0x3FEE0FABFBC702A7 < 0x3FF1082B577D34F0 - 0x3FEE0FABFBC702A7)
-            return log_near_one(normal_value(w));
+            return log_near_one(normal_value(w, trips.n[0]));
         return log_table(w);
     }
     const double x = from_bits(b);

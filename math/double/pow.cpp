@@ -37,9 +37,11 @@ template <double (*reduce)(double)>
 double positive_power(const arg64 &x, double y) {
     // log2 x = m - p/16 + log2(g / A1[p]), g in [0.5, 1): g is x with the
     // exponent field 0x3FE, denormals not normalised.
+    Trips trips;
     const int m = static_cast<int>(x.hi >> 20) - 1022;
     const i32 top = static_cast<i32>((x.hi & 0xFFFFF) | 0x100000) + static_cast<i32>(x.lo >> 31);
-    const double g = (fild(top) * 4294967296.0 + fild(reinterpret_cast<const i32 &>(x.lo))) * 0x1p-53;
+    const double g = (to_double(top, trips.n[0]) * 4294967296.0 +
+                      fild(reinterpret_cast<const i32 &>(x.lo))) * 0x1p-53;
     const int p = search((u64(0x3FE00000 | (x.hi & 0xFFFFF)) << 32) | x.lo);
     const double z = 2.0 * ((g - a1(p)) - kA2[(p - 1) / 2]) / (g + a1(p));
     const double v = z * z;
@@ -48,7 +50,7 @@ double positive_power(const arg64 &x, double y) {
          0.08333333333333322);
     constexpr double k = 0.4426950408889634;  // log2 e - 1
     const double u2 = z + ((r + r * k) + k * z);
-    const double u1 = (16 * m - p) * 0.0625;
+    const double u1 = to_double(16 * m - p, trips.n[1]) * 0.0625;
 
     // y log2 x in sixteenths: I/16 + W2.
     const double y1 = reduce(y);
@@ -60,7 +62,7 @@ double positive_power(const arg64 &x, double y) {
     w1 = reduce(w);
     w2 = w2 + (w - w1);
     const double r16 = reduce(w2);
-    i32 i = integral_to_i32(16.0 * (w1 + r16));  // sixteenths: integral already
+    i32 i = integral_to_i32(16.0 * (w1 + r16), trips.n[2]);  // sixteenths: integral already
     w2 = w2 - r16;
     if (i > 16382) return kDoubleInf;
     if (i < -16350) return 0.0;  // also every conversion out of range above
@@ -86,8 +88,9 @@ bool integral(const arg64 &y, int e) {
 
 // Every case, as the method takes them one by one.
 [[gnu::noinline]] double general_power(const arg64 &xw, const arg64 &yw) {
-    double x = value(xw);
-    const double y = value(yw);
+    Trips trips;
+    double x = value(xw, trips.n[0]);
+    const double y = value(yw, trips.n[1]);
     if (eq(y, 0.0)) return 1.0;  // y NaN too
     if (eq(x, 1.0)) return x;    // a NaN x comes back
 
@@ -129,7 +132,9 @@ double pow_words(arg64 x, arg64 y) {
     const bool x_plain = x.hi - 1 < 0x7FF00000 - 1 || (x.hi == 0 && x.lo != 0);
     const bool y_whole = ey >= 0x3FF && integral(y, static_cast<int>(ey) - 1023);
     if (x_plain && !(x.hi == 0x3FF00000 && x.lo == 0) && ey < 0x3FF + 15 &&
-        ((y.hi << 1) | y.lo) != 0 && !y_whole)
-        return positive_power<reduce_small>(x, value(y));
+        ((y.hi << 1) | y.lo) != 0 && !y_whole) {
+        Trips trips;
+        return positive_power<reduce_small>(x, value(y, trips.n[0]));
+    }
     return general_power(x, y);
 }

@@ -5,4 +5,7 @@ using namespace orv::m;
 
 extern "C" ORV_EXPORT double sin_words(arg64 x) __asm__("sin");
 
-double sin_words(arg64 x) { return sincos_kernel(value(x), 0); }
+double sin_words(arg64 x) {
+    Trips trips;
+    return sincos_kernel(value(x, trips.n[0]), 0);
+}

@@ -19,6 +19,7 @@ double ladder(double x, double a) {
 extern "C" ORV_EXPORT double sqrt_words(arg64 w) __asm__("sqrt");
 
 double sqrt_words(arg64 w) {
+    Trips trips;
     const u32 e = w.hi >> 20;  // the sign too
     if (e - 1 < 0x7FE) {
         // A positive normal x = 2^2k x', x' in [1, 4): the ladder runs on x'
@@ -28,12 +29,12 @@ double sqrt_words(arg64 w) {
         const int k = (static_cast<int>(e) - 1023 - static_cast<int>(odd)) >> 1;
         static constexpr double kSignificand[2] = {0x1p-52, 0x1p-51};
         const i32 top = static_cast<i32>((w.hi & 0xFFFFF) | 0x100000) + static_cast<i32>(w.lo >> 31);
-        const double x = (fild(top) * 4294967296.0 + fild(reinterpret_cast<const i32 &>(w.lo))) *
-                         kSignificand[odd];
+        const double x = (to_double(top, trips.n[0]) * 4294967296.0 +
+                          fild(reinterpret_cast<const i32 &>(w.lo))) * kSignificand[odd];
         // The guess's high word is (high word of x) / 2 + 0x1FF80000: over
         // 2^k that is 1 or 1.5 by the parity, plus the fraction halved.
         const i32 guess = static_cast<i32>(((w.hi & 0xFFFFF) >> 1) + (odd ? 0x180000u : 0x100000u));
-        return scale2(ladder(x, fild(guess) * 0x1p-20), k);
+        return scale2(ladder(x, to_double(guess, trips.n[1]) * 0x1p-20), k);
     }
     const double x = from_words(w.hi, w.lo);
     if (eq(x, 0.0)) return x;  // -0 stays -0, a NaN comes back

@@ -7,7 +7,8 @@ using namespace orv::m;
 extern "C" ORV_EXPORT double tanh_words(arg64 w) __asm__("tanh");
 
 double tanh_words(arg64 w) {
-    const double x = value(w);
+    Trips trips;
+    const double x = value(w, trips.n[0]);
     const double y = absd(x);
     double r;
     if (!ge(19.0615474653985, y)) {

@@ -27,12 +27,6 @@ double reduce_any(double v) { return to_i32(16.0 * v) * 0.0625; }
 // The same for |16 v| < 2^31, in the registers.
 double reduce_small(double v) { return trunc_small(16.0 * v) * 0.0625; }
 
-// The integer as a double, through a word of its own.
-double to_double(i32 v, i32 &word) {
-    word = v;
-    return fild(word);
-}
-
 // Steps from the logarithm on, for a positive x given by its bits (a
 // denormal reads as its fields stand).
 template <double (*reduce)(double)>
