@@ -130,16 +130,19 @@ inline i32 integral_to_i32(double x, i32 &word) {
     return word;
 }
 
-// Truncation of a value the caller knows to lie within (-2^31, 2^31),
-// without leaving the registers: 1.5 * 2^52 added and taken away rounds to
-// an integer at 53-bit precision, and a step toward zero corrects the
-// rounding as in trunc_i32.
+// Truncation toward zero to a multiple of 2^-k, of a value the caller
+// knows to lie within (-2^(31-k), 2^(31-k)), without leaving the registers:
+// 1.5 * 2^(52-k) added and taken away rounds to the nearest multiple at
+// 53-bit precision, and a step toward zero corrects the rounding as in
+// trunc_i32.
+template <int k = 0>
 inline double trunc_small(double u) {
-    constexpr double kRound = 6755399441055744.0;
+    constexpr double kRound = 0x1.8p52 / (1 << k);
+    static constexpr double kStepK[4] = {0.0, -1.0 / (1 << k), 1.0 / (1 << k), 0.0};
     const double r = (u + kRound) - kRound;
     const unsigned down = !(u < 0) & (r > u);
     const unsigned up = (u < 0) & (r < u);
-    return r + kStep[down | (up << 1)];
+    return r + kStepK[down | (up << 1)];
 }
 
 // The same for a value known to be positive.
@@ -173,14 +176,6 @@ inline float to_float(double x, float &word) {
     word = static_cast<float>(x);
     __asm__("" : "+m"(word));
     return word;
-}
-
-// A register value rounded to the 53 bits of a double: an addition of zero
-// obeys the precision control, which the transcendental instructions
-// ignore. (A trip through memory would do the same, at a greater cost.)
-inline double round53(double x) {
-    __asm__("fldz\n\tfaddp %%st, %%st(1)" : "+t"(x));
-    return x;
 }
 
 inline double fsqrt(double x) {
@@ -234,24 +229,33 @@ inline double to_double(i32 v, i32 &word) {
     return fild(word);
 }
 
-// The value of a double whose exponent field lies in [35, 0x7FE], from its
-// words: the 53-bit significand as two exact integer loads (FILD reads the
-// low word as signed, which one carry into the high part makes up for),
-// then the exponent and the sign as exact powers of two. The high part
-// makes its trip through memory in the given word.
-inline double normal_value(const arg64 &a, i32 &word) {
+// The 53-bit significand of a double, hidden bit set, as an integer: two
+// exact integer loads (FILD reads the low word as signed, which one carry
+// into the high part makes up for). The high part makes its trip through
+// memory in the given word.
+inline double significand(const arg64 &a, i32 &word) {
     word = static_cast<i32>((a.hi & 0xFFFFF) | 0x100000) + static_cast<i32>(a.lo >> 31);
-    const double v = fild(word) * 4294967296.0 + fild(reinterpret_cast<const i32 &>(a.lo));
-    const unsigned i = ((a.hi >> 20) & 0x7FF) - 1075 + 1040;
-    return v * pow2_fine[i & 63] * pow2_coarse[(i >> 6) + 33 * (a.hi >> 31)];
+    return fild(word) * 4294967296.0 + fild(reinterpret_cast<const i32 &>(a.lo));
 }
+
+// The value of a double whose exponent field lies in [35, 0x7FE], from its
+// words: the significand, then the exponent and the sign as exact powers
+// of two.
+inline double normal_value(const arg64 &a, i32 &word) {
+    const unsigned i = ((a.hi >> 20) & 0x7FF) - 1075 + 1040;
+    return significand(a, word) * pow2_fine[i & 63] * pow2_coarse[(i >> 6) + 33 * (a.hi >> 31)];
+}
+
+// The rare values, through memory, out of line: inline, the compiler would
+// hoist the 8-byte load above the test, and every call would wait on it.
+[[gnu::cold, gnu::noinline]] double stored_value(u32 hi, u32 lo);
 
 // The value of any double from its words: through the registers when it is
 // normal and not tiny, through memory otherwise (zeros, denormals,
 // infinities and NaNs keep their exact bits that way).
 inline double value(const arg64 &a, i32 &word) {
     if (((a.hi >> 20) & 0x7FF) - 35u < 0x7FF - 35u) return normal_value(a, word);
-    return from_words(a.hi, a.lo);
+    return stored_value(a.hi, a.lo);
 }
 
 // The binary search of pow and powf for the odd p with A1[p+1] < g <=

@@ -59,7 +59,7 @@ inline double log_kernel(const arg64 &w) {
             return log_near_one(normal_value(w, trips.n[0]));
         return log_table(w);
     }
-    const double x = from_bits(b);
+    const double x = stored_value(w.hi, w.lo);
     if (!gt(x, 0.0)) {
         if (lt(x, 0.0)) return domain_error(kDoubleNan);  // also NaN
         return range_error(-kDoubleInf);

@@ -28,8 +28,8 @@ double reduce_any(double v) {
     return trunc_i32(16.0 * v, &n) * 0.0625;
 }
 
-// The same for |16 v| < 2^31, in the registers.
-double reduce_small(double v) { return trunc_small(16.0 * v) * 0.0625; }
+// The same for |16 v| < 2^31, in the registers, with no product by 16.
+double reduce_small(double v) { return trunc_small<4>(v); }
 
 // Steps from the logarithm on, for a positive x given by its words (an
 // infinity or a denormal reads as its fields stand).

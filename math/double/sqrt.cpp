@@ -36,7 +36,7 @@ double sqrt_words(arg64 w) {
         const i32 guess = static_cast<i32>(((w.hi & 0xFFFFF) >> 1) + (odd ? 0x180000u : 0x100000u));
         return scale2(ladder(x, to_double(guess, trips.n[1]) * 0x1p-20), k);
     }
-    const double x = from_words(w.hi, w.lo);
+    const double x = stored_value(w.hi, w.lo);
     if (eq(x, 0.0)) return x;  // -0 stays -0, a NaN comes back
     if (!le(0.0, x)) return domain_error(kDoubleNan);
     // Denormals and +infinity: the guess from the bits as they stand.

@@ -24,8 +24,8 @@ constexpr double F(float v) { return v; }
 // method: -2147483648 sixteenths when out of range.
 double reduce_any(double v) { return to_i32(16.0 * v) * 0.0625; }
 
-// The same for |16 v| < 2^31, in the registers.
-double reduce_small(double v) { return trunc_small(16.0 * v) * 0.0625; }
+// The same for |16 v| < 2^31, in the registers, with no product by 16.
+double reduce_small(double v) { return trunc_small<4>(v); }
 
 // Steps from the logarithm on, for a positive x given by its bits (a
 // denormal reads as its fields stand).
