@@ -285,6 +285,39 @@ class PowSearch {
     unsigned char j_[64];
 };
 
+// The last steps of the logarithm in pow and powf: y log2 x carried in
+// sixteenths, as I/16 + W2, from log2 x = u1 + u2 with u1 a multiple of
+// 1/16. reduce truncates to a multiple of 1/16: reduce_any by the
+// conversion of the method (-2147483648 sixteenths when out of range),
+// reduce_small in the registers, where |16 v| < 2^31 is known.
+inline double reduce_any(double v) {
+    i32 n;
+    return trunc_i32(16.0 * v, &n) * 0.0625;
+}
+inline double reduce_small(double v) { return trunc_small<4>(v); }
+
+struct Sixteenths {
+    i32 i;
+    double w2;
+};
+
+template <double (*reduce)(double)>
+inline Sixteenths sixteenths(double y, double u1, double u2, i32 &word) {
+    const double y1 = reduce(y);
+    const double y2 = y - y1;
+    double w = u2 * y + y2 * u1;
+    double w1 = reduce(w);
+    double w2 = w - w1;
+    w = w1 + u1 * y1;
+    w1 = reduce(w);
+    w2 = w2 + (w - w1);
+    const double r16 = reduce(w2);
+    // sixteenths: integral already; every conversion out of range above
+    // ends as -2147483648 here
+    const i32 i = integral_to_i32(16.0 * (w1 + r16), word);
+    return {i, w2 - r16};
+}
+
 // Truncation to an integral value on the bits alone.
 double dint(double x);
 float aint(float x);

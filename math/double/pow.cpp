@@ -21,16 +21,6 @@ double a1(int j) { return table(pow_a1, j); }
 
 constexpr PowSearch<u64, 52> search(pow_a1);
 
-// The value truncated to a multiple of 1/16, by the conversion of the
-// method: -2147483648 sixteenths when out of range.
-double reduce_any(double v) {
-    i32 n;
-    return trunc_i32(16.0 * v, &n) * 0.0625;
-}
-
-// The same for |16 v| < 2^31, in the registers, with no product by 16.
-double reduce_small(double v) { return trunc_small<4>(v); }
-
 // Steps from the logarithm on, for a positive x given by its words (an
 // infinity or a denormal reads as its fields stand).
 template <double (*reduce)(double)>
@@ -39,9 +29,7 @@ double positive_power(const arg64 &x, double y) {
     // exponent field 0x3FE, denormals not normalised.
     Trips trips;
     const int m = static_cast<int>(x.hi >> 20) - 1022;
-    const i32 top = static_cast<i32>((x.hi & 0xFFFFF) | 0x100000) + static_cast<i32>(x.lo >> 31);
-    const double g = (to_double(top, trips.n[0]) * 4294967296.0 +
-                      fild(reinterpret_cast<const i32 &>(x.lo))) * 0x1p-53;
+    const double g = significand(x, trips.n[0]) * 0x1p-53;
     const int p = search((u64(0x3FE00000 | (x.hi & 0xFFFFF)) << 32) | x.lo);
     const double z = 2.0 * ((g - a1(p)) - kA2[(p - 1) / 2]) / (g + a1(p));
     const double v = z * z;
@@ -52,20 +40,9 @@ double positive_power(const arg64 &x, double y) {
     const double u2 = z + ((r + r * k) + k * z);
     const double u1 = to_double(16 * m - p, trips.n[1]) * 0.0625;
 
-    // y log2 x in sixteenths: I/16 + W2.
-    const double y1 = reduce(y);
-    const double y2 = y - y1;
-    double w = u2 * y + y2 * u1;
-    double w1 = reduce(w);
-    double w2 = w - w1;
-    w = w1 + u1 * y1;
-    w1 = reduce(w);
-    w2 = w2 + (w - w1);
-    const double r16 = reduce(w2);
-    i32 i = integral_to_i32(16.0 * (w1 + r16), trips.n[2]);  // sixteenths: integral already
-    w2 = w2 - r16;
+    auto [i, w2] = sixteenths<reduce>(y, u1, u2, trips.n[2]);
     if (i > 16382) return kDoubleInf;
-    if (i < -16350) return 0.0;  // also every conversion out of range above
+    if (i < -16350) return 0.0;
     // Unless 0 > W2, one sixteenth moves from W2 to I; without a branch.
     static constexpr double sixteenth[2] = {0.0, 0.0625};
     const unsigned move = !gt(0.0, w2);

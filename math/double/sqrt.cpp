@@ -28,9 +28,7 @@ double sqrt_words(arg64 w) {
         const u32 odd = (e - 1023) & 1;
         const int k = (static_cast<int>(e) - 1023 - static_cast<int>(odd)) >> 1;
         static constexpr double kSignificand[2] = {0x1p-52, 0x1p-51};
-        const i32 top = static_cast<i32>((w.hi & 0xFFFFF) | 0x100000) + static_cast<i32>(w.lo >> 31);
-        const double x = (to_double(top, trips.n[0]) * 4294967296.0 +
-                          fild(reinterpret_cast<const i32 &>(w.lo))) * kSignificand[odd];
+        const double x = significand(w, trips.n[0]) * kSignificand[odd];
         // The guess's high word is (high word of x) / 2 + 0x1FF80000: over
         // 2^k that is 1 or 1.5 by the parity, plus the fraction halved.
         const i32 guess = static_cast<i32>(((w.hi & 0xFFFFF) >> 1) + (odd ? 0x180000u : 0x100000u));

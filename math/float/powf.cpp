@@ -20,13 +20,6 @@ constexpr PowSearch<u32, 23> search(powf_a1);
 
 constexpr double F(float v) { return v; }
 
-// The value truncated to a multiple of 1/16, by the conversion of the
-// method: -2147483648 sixteenths when out of range.
-double reduce_any(double v) { return to_i32(16.0 * v) * 0.0625; }
-
-// The same for |16 v| < 2^31, in the registers, with no product by 16.
-double reduce_small(double v) { return trunc_small<4>(v); }
-
 // Steps from the logarithm on, for a positive x given by its bits (a
 // denormal reads as its fields stand).
 template <double (*reduce)(double)>
@@ -43,17 +36,7 @@ float positive_power(u32 x, double y) {
     const double u2 = z + ((r + r * k) + k * z);
     const double u1 = to_double(16 * m - p, trips.n[1]) * 0.0625;
 
-    const double y1 = reduce(y);
-    const double y2 = y - y1;
-    double w = u2 * y + y2 * u1;
-    double w1 = reduce(w);
-    double w2 = w - w1;
-    w = w1 + u1 * y1;
-    w1 = reduce(w);
-    w2 = w2 + (w - w1);
-    const double r16 = reduce(w2);
-    i32 i = integral_to_i32(16.0 * (w1 + r16), trips.n[2]);  // sixteenths: integral already
-    w2 = w2 - r16;
+    auto [i, w2] = sixteenths<reduce>(y, u1, u2, trips.n[2]);
     if (i > 2046) return kFloatInf;
     if (i < -2014) return 0.0f;
     w2 = to_float(w2, trips.f[0]);
