@@ -122,7 +122,7 @@ inline i32 integral_to_i32(double x) {
 // Trips and names a word for each (the overloads below).
 struct Trips {
     float f[3];
-    i32 n[3];
+    i32 n[4];
 };
 
 inline i32 integral_to_i32(double x, i32 &word) {
@@ -250,11 +250,28 @@ inline double normal_value(const arg64 &a, i32 &word) {
 // hoist the 8-byte load above the test, and every call would wait on it.
 [[gnu::cold, gnu::noinline]] double stored_value(u32 hi, u32 lo);
 
+// Whether 2^-74 <= |x| < 2^127: the sizes that value() builds from two
+// floats (the high one may carry into the next binade), and that have no
+// zero, infinity or NaN among them.
+inline bool ordinary_size(const arg64 &a) { return ((a.hi >> 20) & 0x7FF) - 949 < 1150 - 949; }
+
 // The value of any double from its words: through the registers when it is
 // normal and not tiny, through memory otherwise (zeros, denormals,
-// infinities and NaNs keep their exact bits that way).
-inline double value(const arg64 &a, i32 &word) {
-    if (((a.hi >> 20) & 0x7FF) - 35u < 0x7FF - 35u) return normal_value(a, word);
+// infinities and NaNs keep their exact bits that way). Of ordinary size,
+// two floats made from one word each carry it exactly: the high word with
+// its 20 fraction bits (plus the carry that makes up for FILD reading the
+// low word as signed), and the scale 2^(e-1075) of the low word, both with
+// the sign.
+inline double value(const arg64 &a, i32 &high, i32 &scale) {
+    const u32 e = (a.hi >> 20) & 0x7FF;
+    if (ordinary_size(a)) {
+        const u32 sign = a.hi & 0x80000000;
+        high = static_cast<i32>(((a.hi - sign - (896u << 20) + (a.lo >> 31)) << 3) | sign);
+        scale = static_cast<i32>(((e - 948) << 23) | sign);
+        return reinterpret_cast<const float &>(high) +
+               fild(reinterpret_cast<const i32 &>(a.lo)) * reinterpret_cast<const float &>(scale);
+    }
+    if (e - 35 < 0x7FF - 35) return normal_value(a, high);
     return stored_value(a.hi, a.lo);
 }
 

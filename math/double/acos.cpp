@@ -7,5 +7,5 @@ extern "C" ORV_EXPORT double acos_words(arg64 x) __asm__("acos");
 
 double acos_words(arg64 x) {
     Trips trips;
-    return asinacos_kernel(value(x, trips.n[0]), 1);
+    return asinacos_kernel(value(x, trips.n[0], trips.n[1]), 1);
 }

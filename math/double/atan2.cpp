@@ -19,7 +19,7 @@ double quadrant(double q, unsigned left, unsigned y_sign) {
 
 [[gnu::noinline]] double general_atan2(const arg64 &yw, const arg64 &xw) {
     Trips trips;
-    const double y = value(yw, trips.n[0]), x = value(xw, trips.n[1]);
+    const double y = value(yw, trips.n[0], trips.n[1]), x = value(xw, trips.n[2], trips.n[3]);
     if (eq(x, 0.0)) {  // a NaN x counts as zero
         if (eq(y, 0.0)) return domain_error(0.0);
         return lt(y, 0.0) ? -1.5707963267948966 : 1.5707963267948966;
@@ -32,15 +32,11 @@ double quadrant(double q, unsigned left, unsigned y_sign) {
 extern "C" ORV_EXPORT double atan2_words(arg64 yw, arg64 xw) __asm__("atan2");
 
 double atan2_words(arg64 yw, arg64 xw) {
-    // Both normal, and the quotient within reach of one scaling: |y / x| as
-    // the quotient of the significands times 2^(ey - ex), which is exact
-    // and commutes with the rounding of the division.
-    const u32 ey = (yw.hi >> 20) & 0x7FF, ex = (xw.hi >> 20) & 0x7FF;
-    const int d = static_cast<int>(ey) - static_cast<int>(ex);
-    if (ey - 1 < 0x7FE && ex - 1 < 0x7FE && d >= -1040 && d <= 1071) {
+    // Both of ordinary size: no zero, infinity or NaN to weigh.
+    if (ordinary_size(yw) && ordinary_size(xw)) {
         Trips trips;
-        const double q = significand(yw, trips.n[0]) / significand(xw, trips.n[1]);
-        return quadrant(scale2(q, d), xw.hi >> 31, yw.hi >> 31);
+        const double y = value(yw, trips.n[0], trips.n[1]), x = value(xw, trips.n[2], trips.n[3]);
+        return quadrant(absd(y / x), xw.hi >> 31, yw.hi >> 31);
     }
     return general_atan2(yw, xw);
 }

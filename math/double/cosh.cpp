@@ -8,7 +8,7 @@ extern "C" ORV_EXPORT double cosh_words(arg64 w) __asm__("cosh");
 
 double cosh_words(arg64 w) {
     Trips trips;
-    const double x = value(w, trips.n[0]);
+    const double x = value(w, trips.n[0], trips.n[1]);
     const double z = exp_kernel(absd(x));
     return (z + 1.0 / z) * 0.5;
 }

@@ -7,5 +7,5 @@ extern "C" ORV_EXPORT double exp_words(arg64 x) __asm__("exp");
 
 double exp_words(arg64 x) {
     Trips trips;
-    return exp_kernel(value(x, trips.n[0]));
+    return exp_kernel(value(x, trips.n[0], trips.n[1]));
 }

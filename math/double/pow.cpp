@@ -66,8 +66,8 @@ bool integral(const arg64 &y, int e) {
 // Every case, as the method takes them one by one.
 [[gnu::noinline]] double general_power(const arg64 &xw, const arg64 &yw) {
     Trips trips;
-    double x = value(xw, trips.n[0]);
-    const double y = value(yw, trips.n[1]);
+    double x = value(xw, trips.n[0], trips.n[1]);
+    const double y = value(yw, trips.n[2], trips.n[3]);
     if (eq(y, 0.0)) return 1.0;  // y NaN too
     if (eq(x, 1.0)) return x;    // a NaN x comes back
 
@@ -111,7 +111,7 @@ double pow_words(arg64 x, arg64 y) {
     if (x_plain && !(x.hi == 0x3FF00000 && x.lo == 0) && ey < 0x3FF + 15 &&
         ((y.hi << 1) | y.lo) != 0 && !y_whole) {
         Trips trips;
-        return positive_power<reduce_small>(x, value(y, trips.n[0]));
+        return positive_power<reduce_small>(x, value(y, trips.n[0], trips.n[1]));
     }
     return general_power(x, y);
 }

@@ -7,5 +7,5 @@ extern "C" ORV_EXPORT double sin_words(arg64 x) __asm__("sin");
 
 double sin_words(arg64 x) {
     Trips trips;
-    return sincos_kernel(value(x, trips.n[0]), 0);
+    return sincos_kernel(value(x, trips.n[0], trips.n[1]), 0);
 }

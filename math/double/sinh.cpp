@@ -8,7 +8,7 @@ extern "C" ORV_EXPORT double sinh_words(arg64 w) __asm__("sinh");
 
 double sinh_words(arg64 w) {
     Trips trips;
-    const double x = value(w, trips.n[0]);
+    const double x = value(w, trips.n[0], trips.n[1]);
     const bool negative = gt(0.0, x);
     const double y = absd(x);
     if (!ge(1.0, y)) {

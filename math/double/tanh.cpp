@@ -8,7 +8,7 @@ extern "C" ORV_EXPORT double tanh_words(arg64 w) __asm__("tanh");
 
 double tanh_words(arg64 w) {
     Trips trips;
-    const double x = value(w, trips.n[0]);
+    const double x = value(w, trips.n[0], trips.n[1]);
     const double y = absd(x);
     double r;
     if (!ge(19.0615474653985, y)) {
