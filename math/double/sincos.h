@@ -8,6 +8,7 @@
 namespace orv::m {
 
 inline double sincos_kernel(double x, int flag) {
+    Trips trips;
     const double ax = absd(x);
     double y = ax;
     unsigned negate = 0;
@@ -15,7 +16,7 @@ inline double sincos_kernel(double x, int flag) {
     else negate = gt(0.0, x);
     if (!ge(298156835.16176, y)) return 0.0;  // no significance left; also inf, NaN
     double xn = trunc_small_pos(y * 0.3183098861837907 + 0.5);  // below 10^8 here
-    const i32 n = integral_to_i32(xn);
+    const i32 n = integral_to_i32(xn, trips.n[0]);
     negate ^= n & 1;
     if (flag) xn = xn - 0.5;
     // 3.1416015625 = 3217/1024 has 12 significant bits.

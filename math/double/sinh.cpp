@@ -1,14 +1,18 @@
-#include "include/math.h"
+#include "math/double/exp.h"
 #include "math/fp.h"
 #include "runtime/export.h"
 
 using namespace orv::m;
 
-extern "C" ORV_EXPORT double sinh(double x) {
+extern "C" ORV_EXPORT double sinh_words(arg64 w) __asm__("sinh");
+
+double sinh_words(arg64 w) {
+    Trips trips;
+    const double x = value(w, trips.n[0], trips.n[1]);
     const bool negative = gt(0.0, x);
     const double y = absd(x);
     if (!ge(1.0, y)) {
-        const double z = exp(y);
+        const double z = exp_kernel(y);
         const double r = (z - 1.0 / z) * 0.5;
         return negative ? -r : r;
     }

@@ -1,7 +1,7 @@
-// The tables of the logarithm and the power function, as bit patterns.
-// Produced by tools/math_tables.c with MPFR: for F = 1 + j/128, inv is 1/F,
-// lead is ln F rounded to the nearest multiple of 2^-39, trail is ln F - lead;
-// A1 is 2^(-j/16). Every entry is rounded to nearest double.
+// The tables of the logarithm, as bit patterns. Produced by
+// tools/math_tables.c with MPFR: for F = 1 + j/128, inv is 1/F, lead is ln F
+// rounded to the nearest multiple of 2^-39, trail is ln F - lead. Every entry
+// is rounded to nearest double. (The power function's table is in tables.h.)
 #include "math/double/tables.h"
 
 namespace orv::m {
@@ -142,15 +142,6 @@ constinit const u64 log_trail[129] = {
     0x3D46ABB9DF22BC57, 0x3D6497A915428B44, 0xBD58CD7DC73BD194,
     0xBD49DB3DB43689B4, 0x3D6F2CFB29AAA5F0, 0x3D67648CF6E3C5D7,
     0x3D667570D6095FD2, 0x3D51B194F912B417, 0xBD48432A1B0E2634,
-};
-
-constinit const u64 pow_a1[17] = {
-    0x3FF0000000000000, 0x3FEEA4AFA2A490DA, 0x3FED5818DCFBA487,
-    0x3FEC199BDD85529C, 0x3FEAE89F995AD3AD, 0x3FE9C49182A3F090,
-    0x3FE8ACE5422AA0DB, 0x3FE7A11473EB0187, 0x3FE6A09E667F3BCD,
-    0x3FE5AB07DD485429, 0x3FE4BFDAD5362A27, 0x3FE3DEA64C123422,
-    0x3FE306FE0A31B715, 0x3FE2387A6E756238, 0x3FE172B83C7D517B,
-    0x3FE0B5586CF9890F, 0x3FE0000000000000,
 };
 
 }  // namespace orv::m

@@ -1,16 +1,20 @@
-#include "include/math.h"
+#include "math/double/exp.h"
 #include "math/fp.h"
 #include "runtime/export.h"
 
 using namespace orv::m;
 
-extern "C" ORV_EXPORT double tanh(double x) {
+extern "C" ORV_EXPORT double tanh_words(arg64 w) __asm__("tanh");
+
+double tanh_words(arg64 w) {
+    Trips trips;
+    const double x = value(w, trips.n[0], trips.n[1]);
     const double y = absd(x);
     double r;
     if (!ge(19.0615474653985, y)) {
         r = 1.0;
     } else if (gt(y, 0.5493061443340549)) {  // ln 3 / 2
-        r = (0.5 - 1.0 / (exp(y + y) + 1.0)) * 2.0;
+        r = (0.5 - 1.0 / (exp_kernel(y + y) + 1.0)) * 2.0;
     } else if (!ge(kEps, y)) {
         const double g = y * y;
         const double n = (-0.9643749277722548 * g - 99.22592967223608) * g - 1613.4119023996227;

@@ -1,7 +1,6 @@
-#include "include/math.h"
-#include "math/fp.h"
+#include "math/float/sinfcosf.h"
 #include "runtime/export.h"
 
 using namespace orv::m;
 
-extern "C" ORV_EXPORT float cosf(float x) { return __sinfcosf_c(x, 1); }
+extern "C" ORV_EXPORT float cosf(float x) { return sinfcosf_kernel(x, 1); }

@@ -33,18 +33,24 @@ extern "C" ORV_EXPORT float logf(float xf) {
         return static_cast<float>(range_error(-kFloatInf));
     }
     if (lt(from_fbits(0x3F707D60), x) && lt(x, from_fbits(0x3F88415B))) return logf_near_one(x);
-    const int m = fexp_field(xf) - 127;
+    const u32 bits = fbits(xf);
+    const int m = static_cast<int>(bits >> 23) - 127;
     if (m == 0x80) return kFloatInf;
-    const float y = with_fexp_field(xf, 0x7F);
-    int j = static_cast<int>((fbits(y) >> 16) & 0x7F);
-    double f = static_cast<double>(y) - from_fbits(fbits(y) & 0xFFFF0000u);
-    if (lt(1.0 / 256, f)) {
-        ++j;
-        f = f - 1.0 / 128;
-    }
+    // Y is x with the exponent field 0x7F; j its top 7 fraction bits and
+    // f = Y - F, exact, the fraction below them. Above 2^-8 F moves up to
+    // the next multiple of 1/128 and f goes negative by 2^-7; a tie stays
+    // below. Both on the integer 2^23 f, without a branch.
+    Trips trips;
+    const u32 low16 = bits & 0xFFFF;
+    const u32 up = low16 > 0x8000;
+    const int j = static_cast<int>(((bits >> 16) & 0x7F) + up);
+    trips.n[0] = static_cast<i32>(low16) - static_cast<i32>(up << 16);
+    const double f = fild(trips.n[0]) * 0x1p-23;
+    trips.n[1] = m;
+    const double md = fild(trips.n[1]);
     const double u = table(logf_inv, j) * f;
-    const double a = m * table(logf_lead, 128) + table(logf_lead, j);
-    const double b = m * table(logf_trail, 128) + table(logf_trail, j);
+    const double a = md * table(logf_lead, 128) + table(logf_lead, j);
+    const double b = md * table(logf_trail, 128) + table(logf_trail, j);
     const double q = u * u * (F(0.33333f) * u - F(0.500003f));
-    return to_float(a + (u + (b + q)));
+    return to_float(a + (u + (b + q)), trips.f[0]);
 }

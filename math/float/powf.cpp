@@ -16,13 +16,54 @@ constexpr float kA2[8] = {
 
 double a1(int j) { return table(powf_a1, j); }
 
-double reduce(double v) { return to_i32(16.0 * v) * 0.0625; }
+constexpr PowSearch<u32, 23> search(powf_a1);
 
 constexpr double F(float v) { return v; }
 
-}  // namespace
+// Steps from the logarithm on, for a positive x given by its bits (a
+// denormal reads as its fields stand).
+template <double (*reduce)(double)>
+float positive_power(u32 x, double y) {
+    Trips trips;
+    // g is x with the exponent field 0x7E, in [0.5, 1).
+    const int m = static_cast<int>(x >> 23) - 126;
+    const double g = to_double(static_cast<i32>((x & 0x7FFFFF) | 0x800000), trips.n[0]) * 0x1p-24;
+    const int p = search(0x3F000000 | (x & 0x7FFFFF));
+    const double z = 2.0 * ((g - a1(p)) - F(kA2[(p - 1) / 2])) / (g + a1(p));
+    const double v = z * z;
+    const double r = z * v * F(0.08335754f);
+    const double k = F(0.44269505f);
+    const double u2 = z + ((r + r * k) + k * z);
+    const double u1 = to_double(16 * m - p, trips.n[1]) * 0.0625;
 
-extern "C" ORV_EXPORT float powf(float xf, float yf) {
+    auto [i, w2] = sixteenths<reduce>(y, u1, u2, trips.n[2]);
+    if (i > 2046) return kFloatInf;
+    if (i < -2014) return 0.0f;
+    w2 = to_float(w2, trips.f[0]);
+    // Unless 0 > W2, one sixteenth moves from W2 to I; without a branch.
+    static constexpr double sixteenth[2] = {0.0, 0.0625};
+    const unsigned move = !gt(0.0, w2);
+    w2 = to_float(w2 - sixteenth[move], trips.f[1]);
+    i += static_cast<i32>(move);
+    const int big_m = i / 16 + (i > 0 ? 1 : 0);
+    const int pp = 16 * big_m - i;
+    const double zz = w2 * ((F(0.054360382f) * w2 + F(0.2401851f)) * w2 + F(0.69314677f));
+    // r is stored as a float and M added to its exponent field: the result
+    // is a normal float for every I that gets here, so scaling by 2^M
+    // before the rounding gives the same.
+    return to_float(scale2(a1(pp) + zz * a1(pp), big_m), trips.f[2]);
+}
+
+// The arguments as the caller left them: the bits and the value are both
+// read from there, rather than from copies that the compiler would make.
+union arg32 {
+    float value;
+    u32 bits;
+};
+
+// Every case, as the method takes them one by one.
+[[gnu::noinline]] float general_power(const arg32 &xa, const arg32 &ya) {
+    const float xf = xa.value, yf = ya.value;
     const double y = yf;
     double x = xf;
     if (eq(y, 0.0)) return 1.0f;
@@ -47,44 +88,24 @@ extern "C" ORV_EXPORT float powf(float xf, float yf) {
             return static_cast<float>(domain_error(kFloatInf));
         }
     }
-
-    const float xs = static_cast<float>(x);  // exact: x is a float or its negation
-    const int m = fexp_field(xs) - 126;
-    const double g = with_fexp_field(xs, 0x7E);
-    int p = 0;
-    if (ge(a1(8), g)) p = 8;
-    if (ge(a1(p + 4), g)) p += 4;
-    if (ge(a1(p + 2), g)) p += 2;
-    p += 1;
-    const double z = 2.0 * ((g - a1(p)) - F(kA2[(p - 1) / 2])) / (g + a1(p));
-    const double v = z * z;
-    const double r = z * v * F(0.08335754f);
-    const double k = F(0.44269505f);
-    const double u2 = z + ((r + r * k) + k * z);
-    const double u1 = (16 * m - p) * 0.0625;
-
-    const double y1 = reduce(y);
-    const double y2 = y - y1;
-    double w = u2 * y + y2 * u1;
-    double w1 = reduce(w);
-    double w2 = w - w1;
-    w = w1 + u1 * y1;
-    w1 = reduce(w);
-    w2 = w2 + (w - w1);
-    const double r16 = reduce(w2);
-    i32 i = to_i32(16.0 * (w1 + r16));
-    w2 = w2 - r16;
-    if (i > 2046) return kFloatInf;
-    if (i < -2014) return 0.0f;
-    w2 = to_float(w2);
-    if (!gt(0.0, w2)) {
-        w2 = w2 - 0.0625;
-        ++i;
-    }
-    w2 = to_float(w2);
-    const int big_m = i / 16 + (i > 0 ? 1 : 0);
-    const int pp = 16 * big_m - i;
-    const double zz = w2 * ((F(0.054360382f) * w2 + F(0.2401851f)) * w2 + F(0.69314677f));
-    const float res = add_fexp(to_float(a1(pp) + zz * a1(pp)), big_m);
+    // exact: x is a float or its negation
+    const float res = positive_power<reduce_any>(fbits(static_cast<float>(x)), y);
     return negate ? -res : res;
+}
+
+}  // namespace
+
+extern "C" ORV_EXPORT float powf_words(arg32 x, arg32 y) __asm__("powf");
+
+float powf_words(arg32 x, arg32 y) {
+    // The common case first: x positive, finite and not 1; y nonzero and
+    // below 2^15 in magnitude, where no conversion of the method leaves
+    // the 32-bit range, and not a whole number of 1 or more.
+    const u32 ey = (y.bits >> 23) & 0xFF;
+    const bool y_whole =
+        ey >= 127 && (ey >= 150 || (y.bits & ((u32(1) << (150 - ey)) - 1)) == 0);
+    if (x.bits - 1 < 0x7F800000 - 1 && x.bits != 0x3F800000 && ey < 127 + 15 &&
+        (y.bits << 1) != 0 && !y_whole)
+        return positive_power<reduce_small>(x.bits, y.value);
+    return general_power(x, y);
 }

@@ -1,7 +1,7 @@
-// The tables of the logarithm and the power function, as bit patterns.
-// Produced by tools/math_tables.c with MPFR: for F = 1 + j/128, inv is 1/F,
-// lead is ln F rounded to the nearest multiple of 2^-16, trail is ln F - lead;
-// A1 is 2^(-j/16). Every entry is rounded to nearest float.
+// The tables of the logarithm, as bit patterns. Produced by
+// tools/math_tables.c with MPFR: for F = 1 + j/128, inv is 1/F, lead is ln F
+// rounded to the nearest multiple of 2^-16, trail is ln F - lead. Every entry
+// is rounded to nearest float. (The power function's table is in tables.h.)
 #include "math/float/tables.h"
 
 namespace orv::m {
@@ -79,12 +79,6 @@ constinit const u32 logf_trail[129] = {
     0x36BC21C6, 0xB6C2E157, 0xB67449F8, 0xB64A0662, 0xB67DC915, 0xB6C33FE9,
     0x36D265BC, 0x360CF333, 0xB6454982, 0x36DB5CD8, 0x34186B3E, 0xB6E2393F,
     0x35AA4906, 0xB6D0BB87, 0x35BFBE8E,
-};
-
-constinit const u32 powf_a1[17] = {
-    0x3F800000, 0x3F75257D, 0x3F6AC0C7, 0x3F60CCDF, 0x3F5744FD, 0x3F4E248C,
-    0x3F45672A, 0x3F3D08A4, 0x3F3504F3, 0x3F2D583F, 0x3F25FED7, 0x3F1EF532,
-    0x3F1837F0, 0x3F11C3D3, 0x3F0B95C2, 0x3F05AAC3, 0x3F000000,
 };
 
 }  // namespace orv::m

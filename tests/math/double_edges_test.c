@@ -272,6 +272,86 @@ static void powers(void) {
     CHECK_D(pow(8.0, 1.0 / 3), B(2.0), OK);
 }
 
+/* Every size of argument: the library builds normal arguments from their
+   words with a table of powers of two (a denormal entry, signed copies) and
+   takes the tiniest ones apart, so values at both ends of the exponent
+   range must come back exact. */
+static void argument_range(void) {
+    t_section("arguments across the exponent range");
+    CHECK_D(sin(D(0x8230000000000001ULL)), 0x8230000000000001ULL, OK);  /* exponent field 35 */
+    CHECK_D(sin(D(0x0220000000000001ULL)), 0x0220000000000001ULL, OK);  /* 34 */
+    CHECK_D(atan(D(0x8630000000000005ULL)), 0x8630000000000005ULL, OK);
+    CHECK_D(tanh(D(0x8630000000000005ULL)), 0x8630000000000005ULL, OK);
+    CHECK_D(exp(D(0x8230000000000001ULL)), B(1.0), OK);
+    /* around 2^-74 and 2^127, where the ordinary sizes end, and a low word
+       whose top bit carries into the exponent */
+    CHECK_D(atan(D(0x3B40000000000001ULL)), 0x3B40000000000001ULL, OK);  /* field 948 */
+    CHECK_D(atan(D(0xBB50000000000003ULL)), 0xBB50000000000003ULL, OK);  /* 949 */
+    CHECK_D(atan2(D(0x47EFFFFFFFFFFFFFULL), D(0x47EFFFFFFFFFFFFFULL)), 0x3FE921FB54442D18ULL, OK);
+    CHECK_D(atan2(D(0x47F0000000000001ULL), D(0xC7F0000000000001ULL)), 0x4002D97C7F3321D2ULL, OK);
+    CHECK_D(atan2(D(0x47DFFFFFFFFFFFFFULL), D(0xC7DFFFFFFFFFFFFFULL)), 0x4002D97C7F3321D2ULL, OK);
+    CHECK_D(sin(D(0x3FEFFFFFFFFFFFFFULL)), 0x3FEAED548F090CEEULL, OK);
+    CHECK_D(sin(D(0xC00FFFFF80000000ULL)), 0x3FE837B88F31B225ULL, OK);
+    CHECK_D(exp(D(0xC07FFFFFFFFFFFFFULL)), 0x11C44109EDB20A75ULL, OK);
+    CHECK_D(atan2(DBL_MAX, DBL_MAX), 0x3FE921FB54442D18ULL, OK);
+    CHECK_D(atan2(-DBL_MAX, -DBL_MAX), 0xC002D97C7F3321D2ULL, OK);
+    CHECK_D(atan2(D(0x0230000000000003ULL), D(0x8230000000000003ULL)), 0x4002D97C7F3321D2ULL, OK);
+    CHECK_D(atan2(D(0x0220000000000003ULL), D(0x0230000000000003ULL)), 0x3FDDAC670561BB4FULL, OK);
+    /* -r of a NaN r flips its sign, as negation does */
+    CHECK_D(atan2(D(NINF), D(NINF)), 0xFFF8000000000000ULL, OK);
+    CHECK_D(atan2(D(PINF), D(NINF)), DNAN, OK);
+
+    t_section("sqrt ladder across the exponent range");
+    CHECK_D(sqrt(DBL_MIN), 0x2000000000000000ULL, OK);
+    CHECK_D(sqrt(D(0x0020000000000000ULL)), 0x2006A09E667F3BCCULL, OK);
+    CHECK_D(sqrt(DBL_MAX), 0x5FF0000000000000ULL, OK);
+    CHECK_D(sqrt(D(0x7FE0000000000000ULL)), 0x5FE6A09E667F3BCCULL, OK);
+    CHECK_D(sqrt(4.0), B(2.0), OK);
+    CHECK_D(sqrt(8.0), 0x4006A09E667F3BCCULL, OK);
+    CHECK_D(sqrt(0.5), 0x3FE6A09E667F3BCCULL, OK);
+    CHECK_D(sqrt(3.0), 0x3FFBB67AE8584CAAULL, OK);
+    CHECK_D(sqrt(D(0x3FFFFFFFFFFFFFFFULL)), 0x3FF6A09E667F3BCCULL, OK);
+    CHECK_D(sqrt(1e300), 0x5F138D352E5096AFULL, OK);
+    CHECK_D(sqrt(1e-300), 0x20CA2FE76A3F9475ULL, OK);
+
+    t_section("log table step at its edges");
+    CHECK_D(log(D(0x3FF6B00000000000ULL)), 0x3FD659B57303E1F3ULL, OK);  /* f = 2^-8 stays */
+    CHECK_D(log(D(0x3FABB00000000000ULL)), 0xC00756B83ABB54A9ULL, OK);
+    CHECK_D(log(D(0x3FF8010000000000ULL)), 0x3FD9F5CE8931C488ULL, OK);
+    CHECK_D(log(D(0x3FF8010000000001ULL)), 0x3FD9F5CE8931C48BULL, OK);  /* above: F moves up */
+    CHECK_D(log(D(0x3FF801FFFFFFFFFFULL)), 0x3FD9F87909348849ULL, OK);
+    CHECK_D(log(DBL_MAX), 0x40862E42FEFA39EFULL, OK);
+    CHECK_D(log(DBL_MIN), 0xC086232BDD7ABCD2ULL, OK);
+    CHECK_D(log(D(0x000FFFFFFFFFFFFFULL)), 0xC086232BDD7ABCD2ULL, OK);
+    CHECK_D(log(D(0x3FEE0FABFBC702A6ULL)), 0xBFAFFFFFFFFFFFDBULL, OK);  /* bound: table */
+    CHECK_D(log(D(0x3FEE0FABFBC702A7ULL)), 0xBFAFFFFFFFFFFFCAULL, OK);  /* near 1 */
+    CHECK_D(log(D(0x3FF1082B577D34EFULL)), 0x3FB0000000000017ULL, OK);
+    CHECK_D(log(D(0x3FF1082B577D34F0ULL)), 0x3FB0000000000026ULL, OK);
+    CHECK_D(log10(DBL_MAX), 0x40734413509F79FFULL, OK);
+}
+
+/* pow looks its table up by the bits of the reduced argument and takes a
+   shorter road while |y| < 2^15: both edges against the steps. */
+static void pow_search(void) {
+    t_section("pow table search and its ordinary range");
+    CHECK_D(pow(D(0x3FFAE89F995AD3ADULL), 7.25), 0x4045AB07DD485427ULL, OK); /* g = A1[4] */
+    CHECK_D(pow(D(0x3FFD5818DCFBA487ULL), 0.1), 0x3FF1001CB22B792CULL, OK);  /* g = A1[2] */
+    CHECK_D(pow(D(0x3FF6A09E667F3BCDULL), 3.5), 0x400AE89F995AD3AFULL, OK);  /* g = A1[8] */
+    CHECK_D(pow(D(0x3FF6A09E667F3BCCULL), 3.5), 0x400AE89F995AD3ABULL, OK);
+    CHECK_D(pow(D(0x3FF6A09E667F3BCEULL), 3.5), 0x400AE89F995AD3B3ULL, OK);
+    CHECK_D(pow(D(0x3FE0B5586CF9890FULL), -2.5), 0x40144E086061892EULL, OK); /* g = A1[15] */
+    CHECK_D(pow(1.0000001, 32767.5), 0x3FF00D718E85240DULL, OK);
+    CHECK_D(pow(1.0000001, 32768.5), 0x3FF00D71A973A4BFULL, OK);
+    CHECK_D(pow(1.0000001, -32767.5), 0x3FEFE53367656215ULL, OK);
+    CHECK_D(pow(0.9999999, 32767.0), 0x3FEFE53381FA6755ULL, OK);
+    CHECK_D(pow(D(3), 0.5), 0x1FF6A09E667F3BCFULL, OK);   /* denormal x, not normalised */
+    CHECK_D(pow(DBL_MAX, 0.75), 0x6FEFFFFFFFFFFFFFULL, OK);
+    CHECK_D(pow(DBL_MAX, 1.0009765625), PINF, OK);
+    CHECK_D(pow(2.0, 1023.99999), PINF, OK);                /* I = 16383 */
+    CHECK_D(pow(2.0, -1021.99999), 0, OK);
+    CHECK_D(pow(3.0, 1.5), 0x4014C8DC2E423980ULL, OK);
+}
+
 static void misc(void) {
     t_section("isnan, copysign, limits");
     CHECK_EQ(isnan(__DOUBLE_NAN), 1);
@@ -310,6 +390,8 @@ int main(void) {
     trigonometric();
     hyperbolic();
     powers();
+    argument_range();
+    pow_search();
     misc();
     return t_finish();
 }

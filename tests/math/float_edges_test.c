@@ -121,11 +121,44 @@ static void powers(void) {
     CHECK_F(powf(-2.0f, 3.5e7f), FPINF, OK);  /* integral and even: no EDOM */
 }
 
+/* The shorter roads of powf, sqrtf, expf and logf against the steps, at
+   the edges where they hand over. */
+static void ordinary_ranges(void) {
+    t_section("powf, sqrtf, expf, logf edges");
+    CHECK_F(powf(F(0x3FB504F3), 3.5f), 0x405744FC, OK);   /* g = A1[8] */
+    CHECK_F(powf(F(0x3FB504F2), 3.5f), 0x405744F8, OK);
+    CHECK_F(powf(1.0001f, 32767.5f), 0x41D3FCB1, OK);
+    CHECK_F(powf(1.0001f, 49152.0f), 0x4308486B, OK);
+    CHECK_F(powf(F(3), 0.25f), 0x2F9837F1, OK);           /* denormal x */
+    CHECK_F(powf(2.0f, 127.99f), FPINF, OK);
+    CHECK_F(powf(2.0f, -125.99f), 0, OK);
+    CHECK_F(sqrtf(F(3)), 0x1FB504F5, OK);                 /* denormal, e = -126 */
+    CHECK_F(sqrtf(FLT_MAX), 0x5F800000, OK);
+    CHECK_F(sqrtf(FLT_MIN), 0x20000000, OK);
+    CHECK_F(sqrtf(3.0f), 0x3FDDB3D7, OK);
+    /* the result's exponent field reaches 0 near -86.6 */
+    CHECK_F(expf(-86.0f), 0x01739362, OK);
+    CHECK_F(expf(-86.2f), 0x01476C6D, OK);
+    CHECK_F(expf(-86.3f), 0x013471DD, OK);
+    CHECK_F(expf(-86.5f), 0x0113BC74, OK);
+    CHECK_F(expf(-87.0f), 0x00B33687, OK);
+    CHECK_F(expf(-87.4f), 0x00704280, OK);   /* r below 0.5: the field is 0 already */
+    CHECK_F(expf(-87.5f), 0x00596577, OK);
+    CHECK_F(expf(88.0f), 0x7EF882B7, OK);
+    CHECK_F(logf(F(0x3EE48000)), 0xBF4E89AF, OK);         /* f = 2^-8 stays */
+    CHECK_F(logf(F(0x3FDD8000)), 0x3F0C6371, OK);
+    CHECK_F(logf(F(0x3FC08000)), 0x3ED0EE03, OK);
+    CHECK_F(logf(F(0x3FC08001)), 0x3ED0EE06, OK);
+    CHECK_F(logf(F(3)), 0xC2B00F34, OK);
+    CHECK_F(logf(FLT_MAX), 0x42B17218, OK);
+}
+
 int main(void) {
     rounding();
     exponentials();
     trigonometric();
     hyperbolic();
     powers();
+    ordinary_ranges();
     return t_finish();
 }
