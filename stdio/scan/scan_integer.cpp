@@ -19,7 +19,7 @@ int digit_value(int c) { return c <= '9' ? c - '0' : (c | 0x20) - 87; }
 
 } // namespace
 
-// Reads an integer of the spec's letter into *result. No range test: the
+// Reads an integer of the conversion's letter into *result. No range test: the
 // value wraps in 64 bits, and errno is not touched.
 extern "C" int __scan_integer(scan_spec *spec, int c, long long *result) {
     c = skip_space(spec, c);

@@ -7,7 +7,7 @@ namespace {
 
 using Unget = int (*)(int, _orv_source *);
 
-// The call's state beside the spec: the character in hand, which is not
+// The call's state beside the scan_spec record: the character in hand, which is not
 // yet counted as consumed, and the argument pointers.
 struct Engine {
     scan_spec spec;
