@@ -76,9 +76,8 @@ static void cache(void) {
     CHECK(a && a == b && c && c != a);
     CHECK_STR(a, "value");
     CHECK_STR(c, "value");
-    CHECK(getenv("ORV_") == NULL);  /* a prefix of a cached name */
-    CHECK(getenv("") == NULL);
-    CHECK(getenv("ORV_EMPTY") == NULL);
+    /* A prefix of a cached name, no name, an empty value. */
+    CHECK(getenv("ORV_") == NULL && getenv("") == NULL && getenv("ORV_EMPTY") == NULL);
     value_buffer();
     char *longer = getenv("ORV_LONG"); /* 300 characters */
     CHECK(longer && strlen(longer) == 300 && longer[299] == 'y');
@@ -110,8 +109,7 @@ static void cache(void) {
     CHECK_EQ(GetEnvironmentVariableA("orv_t", name, 6), 5);
     CHECK_STR(name, "value");
     CHECK_EQ(GetEnvironmentVariableA("ORV_EMPTY", name, sizeof name), 0);
-    CHECK_EQ(GetEnvironmentVariableA("ORV_EMPTY", NULL, 0), 0);
-    CHECK_EQ(GetEnvironmentVariableA("ORV_NOT_SET", name, sizeof name), 0);
+    CHECK_EQ(GetEnvironmentVariableA("ORV_EMPTY", NULL, 0) + GetEnvironmentVariableA("ORV_NOT_SET", name, 9), 0);
 }
 
 /* The child writes to the standard handles it inherited. */
@@ -127,8 +125,7 @@ static void shell(const char *self) {
     char line[512];
     CHECK_EQ(system("true; echo 'a b' >sys.txt"), 0);
     char got[64];
-    int n = t_read_file("sys.txt", got, sizeof got);
-    CHECK_MEM(got, (unsigned)(n < 0 ? 0 : n), "a b\n", 4);
+    CHECK_MEM(got, (unsigned)t_read_file("sys.txt", got, sizeof got), "a b\n", 4);
     t_child c;
     t_run_child(&c, echo, 0, "", 0);
     CHECK_EQ(c.status, 2);
@@ -161,13 +158,9 @@ static int second_raise(void *arg) {
 
 static void signals(void) {
     t_section("signals");
-    CHECK(signal(0, handler) == SIG_ERR);
-    CHECK(signal(17, handler) == SIG_ERR);
-    CHECK(signal(16, handler) == SIG_DFL);
-    CHECK(signal(16, SIG_IGN) == handler);
-    CHECK_EQ(raise(16), 0);
-    CHECK_EQ(raise(0), -1);
-    CHECK_EQ(raise(17), -1);
+    CHECK(signal(0, handler) == SIG_ERR && signal(17, handler) == SIG_ERR);
+    CHECK(signal(16, handler) == SIG_DFL && signal(16, SIG_IGN) == handler);
+    CHECK(raise(16) == 0 && raise(0) == -1 && raise(17) == -1);
     signal(3, handler);
     CHECK_EQ(raise(3), 0);
     CHECK_EQ(hits, 3);
