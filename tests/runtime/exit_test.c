@@ -98,7 +98,9 @@ int main(void) {
     k32_fail_call(K32_HeapAlloc, 1);
     CHECK_EQ(atexit(h_a), -1);
     CHECK(__atexit_table == 0 && __atexit_count == 0);
+    unsigned grown = k32_call_count(K32_HeapReAlloc);
     for (int i = 0; i < 128; ++i) atexit(i == 0 ? h_b : h_a);
+    CHECK_EQ(k32_call_count(K32_HeapReAlloc), grown); /* 128 fit the first block */
     void (**table)(void) = __atexit_table;
     k32_fail_call(K32_HeapReAlloc, 1);
     CHECK_EQ(atexit(h_late), -1); /* nothing lost */
