@@ -41,21 +41,17 @@ static const char quoted_args[] = " args a\\\"b \"c d\" e\\\\\\\\\"f g\" h\\\\i 
    name costs its entry, and a new buffer before it when it did not fit. */
 static void value_buffer(void) {
     t_section("value buffer");
-    unsigned before = allocs();
-    char *v = getenv("ORV_255");
-    CHECK(v && strlen(v) == 255);
-    CHECK_EQ(allocs() - before, 1);
-    static const char *const names[] = {"ORV_256", "ORV_256B", "ORV_257"};
-    static const unsigned lengths[] = {256, 256, 257}, grown[] = {2, 1, 2};
-    for (unsigned i = 0; i < 3; ++i) {
-        before = allocs();
+    /* The last: found in the cache, with no heap call. */
+    static const char *const names[] = {"ORV_255", "ORV_256", "ORV_256B", "ORV_257", "ORV_257"};
+    static const unsigned lengths[] = {255, 256, 256, 257, 257}, grown[] = {1, 2, 1, 2, 0};
+    char *v = NULL;
+    for (unsigned i = 0; i < 5; ++i) {
+        unsigned before = allocs();
+        char *was = v;
         v = getenv(names[i]);
-        CHECK(v && strlen(v) == lengths[i] && v[lengths[i] - 1] == 'y');
+        CHECK(v && strlen(v) == lengths[i] && v[lengths[i] - 1] == 'y' && (grown[i] || v == was));
         CHECK_EQ(allocs() - before, grown[i]);
     }
-    before = allocs();
-    CHECK(getenv("ORV_257") == v); /* found in the cache: no heap call */
-    CHECK_EQ(allocs(), before);
 }
 
 /* Case variant i of ORV_CASEVAR: bit k of i lowers letter k. */
@@ -76,9 +72,8 @@ static void cache(void) {
     CHECK(a && a == b && c && c != a);
     CHECK_STR(a, "value");
     CHECK_STR(c, "value");
-    CHECK(getenv("ORV_") == NULL);  /* a prefix of a cached name */
-    CHECK(getenv("") == NULL);
-    CHECK(getenv("ORV_EMPTY") == NULL);
+    /* A prefix of a cached name, no name, an empty value. */
+    CHECK(getenv("ORV_") == NULL && getenv("") == NULL && getenv("ORV_EMPTY") == NULL);
     value_buffer();
     char *longer = getenv("ORV_LONG"); /* 300 characters */
     CHECK(longer && strlen(longer) == 300 && longer[299] == 'y');
@@ -110,8 +105,7 @@ static void cache(void) {
     CHECK_EQ(GetEnvironmentVariableA("orv_t", name, 6), 5);
     CHECK_STR(name, "value");
     CHECK_EQ(GetEnvironmentVariableA("ORV_EMPTY", name, sizeof name), 0);
-    CHECK_EQ(GetEnvironmentVariableA("ORV_EMPTY", NULL, 0), 0);
-    CHECK_EQ(GetEnvironmentVariableA("ORV_NOT_SET", name, sizeof name), 0);
+    CHECK_EQ(GetEnvironmentVariableA("ORV_EMPTY", NULL, 0) + GetEnvironmentVariableA("ORV_NOT_SET", name, 9), 0);
 }
 
 /* The child writes to the standard handles it inherited. */
@@ -127,8 +121,7 @@ static void shell(const char *self) {
     char line[512];
     CHECK_EQ(system("true; echo 'a b' >sys.txt"), 0);
     char got[64];
-    int n = t_read_file("sys.txt", got, sizeof got);
-    CHECK_MEM(got, (unsigned)(n < 0 ? 0 : n), "a b\n", 4);
+    CHECK_MEM(got, (unsigned)t_read_file("sys.txt", got, sizeof got), "a b\n", 4);
     t_child c;
     t_run_child(&c, echo, 0, "", 0);
     CHECK_EQ(c.status, 2);
@@ -161,13 +154,9 @@ static int second_raise(void *arg) {
 
 static void signals(void) {
     t_section("signals");
-    CHECK(signal(0, handler) == SIG_ERR);
-    CHECK(signal(17, handler) == SIG_ERR);
-    CHECK(signal(16, handler) == SIG_DFL);
-    CHECK(signal(16, SIG_IGN) == handler);
-    CHECK_EQ(raise(16), 0);
-    CHECK_EQ(raise(0), -1);
-    CHECK_EQ(raise(17), -1);
+    CHECK(signal(0, handler) == SIG_ERR && signal(17, handler) == SIG_ERR);
+    CHECK(signal(16, handler) == SIG_DFL && signal(16, SIG_IGN) == handler);
+    CHECK(raise(16) == 0 && raise(0) == -1 && raise(17) == -1);
     signal(3, handler);
     CHECK_EQ(raise(3), 0);
     CHECK_EQ(hits, 3);

@@ -49,13 +49,16 @@ static int assert_child(void *arg) {
 }
 
 /* Runs fn in a child and checks its error output begins with `text` and
-   that it stopped, with status 1, instead of returning. */
-static void stops_with(int (*fn)(void *), void *arg, const char *text) {
+   that it stopped, with status 1, instead of returning; answers the
+   child's record, its error output as a string. */
+static t_child *stops_with(int (*fn)(void *), void *arg, const char *text) {
     static t_child c;
     t_run_child(&c, fn, arg, 0, 0);
     CHECK(c.exited && c.status == 1);
     unsigned n = t_strlen(text);
     CHECK_MEM(c.err, c.err_len < n ? c.err_len : n, text, n);
+    c.err[c.err_len < sizeof c.err ? c.err_len : sizeof c.err - 1] = 0;
+    return &c;
 }
 
 static void diagnostics(void) {
@@ -72,10 +75,8 @@ static void diagnostics(void) {
     t_section("_gripe_, assert, __pure_error_");
     stops_with(gripe_child, "p != 0", "***Assertion failed in file a.c line 12:\r\n\tp != 0\r\n");
     int one = 1;
-    stops_with(assert_child, &one, "***Assertion failed in file ");
-    t_run_child(&c, assert_child, &one, 0, 0);
-    c.err[c.err_len < sizeof c.err ? c.err_len : sizeof c.err - 1] = 0;
-    CHECK(strstr(c.err, "error_test.c line ") != 0 && strstr(c.err, ":\r\n\t*p == 2\r\n") != 0);
+    const char *err = stops_with(assert_child, &one, "***Assertion failed in file ")->err;
+    CHECK(strstr(err, "error_test.c line ") != 0 && strstr(err, ":\r\n\t*p == 2\r\n") != 0);
     stops_with(pure_child, 0, "****Pure virtual function called\r\n");
 }
 

@@ -19,26 +19,20 @@ static unsigned rng(void) {
     return rng_state >> 8;
 }
 
+/* Each block carries a pattern drawn from the address it was first given;
+   large ones on every 61st byte only (SPARSE), which is enough to see a
+   block that lost or shares its pages. */
+enum { SPARSE = 61 };
 static unsigned char pattern(const void *block, unsigned i) {
     return (unsigned char)(((unsigned)block >> 3) + i * 7 + 1);
 }
-static void fill(void *block, unsigned n) {
-    for (unsigned i = 0; i < n; ++i) ((unsigned char *)block)[i] = pattern(block, i);
+static void fill(void *p, const void *was, unsigned n, unsigned step) {
+    for (unsigned i = 0; i < n; i += step) ((unsigned char *)p)[i] = pattern(was, i);
 }
-/* Whether the first n bytes of `now` hold the pattern written at `was`. */
-static int holds(const void *now, const void *was, unsigned n) {
-    for (unsigned i = 0; i < n; ++i)
-        if (((const unsigned char *)now)[i] != pattern(was, i)) return 0;
-    return 1;
-}
-/* The pattern on every 61st byte: enough to see a block that lost or
-   shares its pages, cheap enough for megabytes. */
-static void fill_sparse(unsigned char *p, const void *was, unsigned n) {
-    for (unsigned i = 0; i < n; i += 61) p[i] = pattern(was, i);
-}
-static int holds_sparse(const unsigned char *p, const void *was, unsigned n) {
+/* Whether the first n bytes of p hold the pattern written at `was`. */
+static int holds(const void *p, const void *was, unsigned n, unsigned step) {
     int ok = 1;
-    for (unsigned i = 0; i < n; i += 61) ok &= p[i] == pattern(was, i);
+    for (unsigned i = 0; i < n; i += step) ok &= ((const unsigned char *)p)[i] == pattern(was, i);
     return ok;
 }
 static int all_zero(const void *p, unsigned n) {
@@ -63,53 +57,41 @@ static const unsigned sizes[] = {0, 1, 7, 8, 9, 16, 24, 100, 128, 129, 160, 250,
                                  20000, 40000, 65535, 65536, 65537, 100000, 300000};
 enum { NSIZES = sizeof sizes / sizeof sizes[0], COPIES = 5 };
 
-static void distinct_blocks(void) {
-    t_section("distinct blocks across classes");
-    void *b[NSIZES * COPIES];
-    int aligned = 1, big_enough = 1;
-    for (int i = 0; i < NSIZES * COPIES; ++i) {
-        unsigned n = sizes[i % NSIZES];
-        b[i] = malloc(n);
-        CHECK(b[i] != 0);
-        aligned &= ((unsigned)b[i] & (n > 128 ? 15u : 7u)) == 0;
-        big_enough &= HeapSize(GetProcessHeap(), 0, b[i]) >= n;
-        fill(b[i], n);
-    }
-    CHECK(aligned);
-    CHECK(big_enough);
-    int intact = 1, apart = 1;
-    for (int i = 0; i < NSIZES * COPIES; ++i) {
-        intact &= holds(b[i], b[i], sizes[i % NSIZES]);
-        for (int j = 0; j < i; ++j) apart &= b[i] != b[j];
-    }
-    CHECK(intact);
-    CHECK(apart); /* malloc(0) included: every block is its own */
-    for (int i = 0; i < NSIZES * COPIES; ++i) free(b[i]);
-}
-
-/* Dirty blocks are freed and the same sizes asked again with zero-fill:
-   whatever is reused must come back clear. */
-static void zero_fill(void) {
-    t_section("zero-fill of reused blocks");
+/* Blocks of every class hold their bytes apart from each other; freed
+   dirty, the same sizes asked again with zero-fill come back clear. */
+static void blocks(void) {
     HANDLE heap = GetProcessHeap();
-    void *b[NSIZES * COPIES];
+    enum { N = NSIZES * COPIES };
+    void *b[N], *old[N];
     for (int round = 0; round < 2; ++round) {
-        for (int i = 0; i < NSIZES * COPIES; ++i) {
-            b[i] = malloc(sizes[i % NSIZES]);
-            t_memset(b[i], 0xAA, HeapSize(heap, 0, b[i]));
+        t_section("distinct blocks across classes");
+        int aligned = 1, big_enough = 1, intact = 1, apart = 1, clear = 1, reused = 0;
+        for (int i = 0; i < N; ++i) {
+            unsigned n = sizes[i % NSIZES];
+            b[i] = malloc(n);
+            aligned &= b[i] != 0 && ((unsigned)b[i] & (n > 128 ? 15u : 7u)) == 0;
+            big_enough &= HeapSize(heap, 0, b[i]) >= n;
+            fill(b[i], b[i], HeapSize(heap, 0, b[i]), 1);
         }
-        void *old[NSIZES * COPIES];
-        for (int i = 0; i < NSIZES * COPIES; ++i) old[i] = b[i], free(b[i]);
-        int clear = 1, reused = 0;
-        for (int i = 0; i < NSIZES * COPIES; ++i) {
+        for (int i = 0; i < N; ++i) {
+            intact &= holds(b[i], b[i], HeapSize(heap, 0, b[i]), 1);
+            for (int j = 0; j < i; ++j) apart &= b[i] != b[j]; /* malloc(0) included */
+        }
+        CHECK(aligned);
+        CHECK(big_enough);
+        CHECK(intact);
+        CHECK(apart);
+        t_section(round == 0 ? "calloc clears reused blocks" : "HEAP_ZERO_MEMORY clears reused blocks");
+        for (int i = 0; i < N; ++i) old[i] = b[i], free(b[i]);
+        for (int i = 0; i < N; ++i) {
             unsigned n = sizes[i % NSIZES];
             b[i] = round == 0 ? calloc(1, n ? n : 1) : HeapAlloc(heap, HEAP_ZERO_MEMORY, n);
             clear &= b[i] != 0 && all_zero(b[i], HeapSize(heap, 0, b[i]));
-            for (int j = 0; j < NSIZES * COPIES; ++j) reused += b[i] == old[j];
+            for (int j = 0; j < N; ++j) reused += b[i] == old[j];
         }
         CHECK(clear);
         CHECK(reused > NSIZES); /* the check above saw dirty memory */
-        for (int i = 0; i < NSIZES * COPIES; ++i) free(b[i]);
+        for (int i = 0; i < N; ++i) free(b[i]);
     }
 }
 
@@ -118,32 +100,31 @@ static void resizing(void) {
     static const unsigned steps[] = {1, 24, 129, 5000, 65536, 70000, 300000, 1 << 20,
                                      200000, 60000, 3000, 100, 9};
     unsigned char *p = malloc(1), *origin = p;
-    fill(p, 1);
+    fill(p, p, 1, 1);
     unsigned have = 1;
     for (unsigned i = 1; i < sizeof steps / sizeof steps[0]; ++i) {
         unsigned n = steps[i];
         unsigned char *q = realloc(p, n);
         CHECK(q != 0);
-        unsigned keep = have < n ? have : n;
-        CHECK(holds(q, origin, keep));
-        for (unsigned j = keep; j < n; ++j) q[j] = pattern(origin, j);
+        CHECK(holds(q, origin, have < n ? have : n, 1));
+        fill(q, origin, n, 1);
         p = q, have = n;
     }
     free(p);
 
     t_section("HeapReAlloc zero-fills what it adds");
     HANDLE heap = GetProcessHeap();
-    static const unsigned from[] = {100, 100, 5000, 100000, 100000};
-    static const unsigned to[] = {5000, 200000, 65536, 400000, 30};
-    for (unsigned i = 0; i < sizeof from / sizeof from[0]; ++i) {
-        unsigned char *a = HeapAlloc(heap, 0, from[i]);
+    static const unsigned from_to[][2] = {{100, 5000}, {100, 200000}, {5000, 65536}, {100000, 400000}, {100000, 30}};
+    for (unsigned i = 0; i < sizeof from_to / sizeof from_to[0]; ++i) {
+        unsigned to = from_to[i][1];
+        unsigned char *a = HeapAlloc(heap, 0, from_to[i][0]);
         unsigned was = HeapSize(heap, 0, a);
-        fill(a, was);
-        unsigned char *b = HeapReAlloc(heap, HEAP_ZERO_MEMORY, a, to[i]);
+        fill(a, a, was, 1);
+        unsigned char *b = HeapReAlloc(heap, HEAP_ZERO_MEMORY, a, to);
         CHECK(b != 0);
         unsigned now = HeapSize(heap, 0, b);
-        CHECK(now >= to[i]);
-        CHECK(holds(b, a, was < to[i] ? was : to[i]));
+        CHECK(now >= to);
+        CHECK(holds(b, a, was < to ? was : to, 1));
         if (now > was) CHECK(all_zero(b + was, now - was));
         HeapFree(heap, 0, b);
     }
@@ -154,27 +135,26 @@ static void failures(void) {
     t_section("in-place-only");
     unsigned char *p = HeapAlloc(heap, 0, 100);
     unsigned usable = HeapSize(heap, 0, p);
-    fill(p, usable);
+    fill(p, p, usable, 1);
     SetLastError(0);
     CHECK(HeapReAlloc(heap, HEAP_REALLOC_IN_PLACE_ONLY, p, 10000) == 0);
     CHECK_EQ(GetLastError(), ERROR_NOT_ENOUGH_MEMORY);
-    CHECK(holds(p, p, usable));
     CHECK(HeapReAlloc(heap, HEAP_REALLOC_IN_PLACE_ONLY, p, usable) == p);
     CHECK(HeapReAlloc(heap, HEAP_REALLOC_IN_PLACE_ONLY, p, 1) == p);
-    CHECK(holds(p, p, usable));
+    CHECK(holds(p, p, usable, 1));
     HeapFree(heap, 0, p);
     unsigned char *big = HeapAlloc(heap, 0, 500000);
-    fill(big, 500000);
+    fill(big, big, 500000, 1);
     CHECK(HeapReAlloc(heap, HEAP_REALLOC_IN_PLACE_ONLY, big, 1000) == big);
-    CHECK(holds(big, big, 1000));
+    CHECK(holds(big, big, 1000, 1));
     HeapFree(heap, 0, big);
 
     t_section("injected failures");
     p = malloc(300);
-    fill(p, 300);
+    fill(p, p, 300, 1);
     k32_fail_call(K32_HeapReAlloc, 1);
     CHECK(realloc(p, 100000) == 0);
-    CHECK(holds(p, p, 300));
+    CHECK(holds(p, p, 300, 1));
     k32_fail_call(K32_HeapAlloc, 1);
     SetLastError(0);
     CHECK(malloc(16) == 0);
@@ -188,7 +168,7 @@ static void failures(void) {
         CHECK(HeapAlloc(heap, 0, huge[i]) == 0);
         CHECK_EQ(GetLastError(), ERROR_NOT_ENOUGH_MEMORY);
         CHECK(realloc(p, huge[i]) == 0);
-        CHECK(holds(p, p, 300));
+        CHECK(holds(p, p, 300, 1));
     }
     CHECK(calloc(0x10000, 0xFFFF) == 0);
     free(p);
@@ -205,7 +185,7 @@ static void large_in_place(void) {
     HANDLE heap = GetProcessHeap();
     t_section("a large block shrinks and grows again in place");
     unsigned char *a = malloc(2 << 20);
-    fill(a, 2 << 20);
+    fill(a, a, 2 << 20, 1);
     unsigned char *b = realloc(a, 200000);
     CHECK(b == a);
     unsigned was = HeapSize(heap, 0, b);
@@ -213,7 +193,7 @@ static void large_in_place(void) {
     /* The pages given back are dirty: what the block gains must be zeroed. */
     unsigned char *c = HeapReAlloc(heap, HEAP_ZERO_MEMORY, b, 3 << 19);
     CHECK(c == a);
-    CHECK(holds(c, a, was));
+    CHECK(holds(c, a, was, 1));
     CHECK(all_zero(c + was, HeapSize(heap, 0, c) - was));
     free(c);
 }
@@ -232,13 +212,13 @@ static void large_reuse(void) {
     for (int step = 0; step < 3000; ++step) {
         unsigned r = rng(), k = r % LIVE;
         unsigned n = 65537 + (r >> 4) % ((r & 1) ? 1u << 18 : 1u << 20);
-        if (blk[k] != 0) intact &= holds_sparse(blk[k], origin[k], len[k]);
+        if (blk[k] != 0) intact &= holds(blk[k], origin[k], len[k], SPARSE);
         if (blk[k] != 0 && (r & 2)) {
             unsigned char *q = realloc(blk[k], n);
             got &= q != 0;
             if (q == 0) continue;
             if (n < len[k]) len[k] = n;
-            intact &= holds_sparse(q, origin[k], len[k]);
+            intact &= holds(q, origin[k], len[k], SPARSE);
             blk[k] = q;
         } else {
             free(blk[k]);
@@ -246,11 +226,10 @@ static void large_reuse(void) {
             got &= blk[k] != 0;
             origin[k] = blk[k], len[k] = n;
         }
-        fill_sparse(blk[k], origin[k], len[k]);
+        fill(blk[k], origin[k], len[k], SPARSE);
     }
-    for (int k = 0; k < LIVE; ++k) intact &= blk[k] == 0 || holds_sparse(blk[k], origin[k], len[k]);
-    CHECK(got);
-    CHECK(intact);
+    for (int k = 0; k < LIVE; ++k) intact &= blk[k] == 0 || holds(blk[k], origin[k], len[k], SPARSE);
+    CHECK(got && intact);
     int apart = 1;
     for (int i = 0; i < LIVE; ++i)
         for (int j = 0; j < i; ++j) {
@@ -307,12 +286,12 @@ static void churn(void) {
     for (int i = 0; i < CHURN; ++i) {
         seed = seed * 1103515245u + 12345u;
         unsigned k = (seed >> 8) % LIVE;
-        if (mine[k] && !holds(mine[k], mine[k], sz[k])) __atomic_add_fetch(&thread_faults, 1, __ATOMIC_RELAXED);
+        if (mine[k] && !holds(mine[k], mine[k], sz[k], 1)) __atomic_add_fetch(&thread_faults, 1, __ATOMIC_RELAXED);
         free(mine[k]);
         sz[k] = (seed >> 12) % 64 == 0 ? 70000 : (seed >> 16) % 3000;
         mine[k] = malloc(sz[k]);
         if (!mine[k]) __atomic_add_fetch(&thread_faults, 1, __ATOMIC_RELAXED);
-        else fill(mine[k], sz[k]);
+        else fill(mine[k], mine[k], sz[k], 1);
     }
     for (int k = 0; k < LIVE; ++k) free(mine[k]);
 }
@@ -325,14 +304,9 @@ static void thread_main(void) {
 static int start_thread(void (*fn)(void), char *stack_top) {
     long r;
     ((void (**)(void))stack_top)[-4] = fn; /* at the new stack pointer, 16-aligned */
-    __asm__ volatile("int $0x80\n\t"
-                     "test %%eax, %%eax\n\t"
-                     "jnz 1f\n\t"
-                     "call *(%%esp)\n\t"
-                     "movl $1, %%eax\n\t" /* exit: this thread only */
-                     "xorl %%ebx, %%ebx\n\t"
-                     "int $0x80\n"
-                     "1:"
+    /* The new thread calls fn, then exits: itself only. */
+    __asm__ volatile("int $0x80\n\ttest %%eax, %%eax\n\tjnz 1f\n\tcall *(%%esp)\n\t"
+                     "movl $1, %%eax\n\txorl %%ebx, %%ebx\n\tint $0x80\n1:"
                      : "=a"(r)
                      : "a"(120 /* clone */), "b"(0x50F00 /* VM FS FILES SIGHAND THREAD SYSVSEM */),
                        "c"(stack_top - 16), "d"(0), "S"(0), "D"(0)
@@ -356,8 +330,7 @@ static void threads(void) {
 
 int main(void) {
     large_in_place(); /* first, while the heap keeps no freed pages */
-    distinct_blocks();
-    zero_fill();
+    blocks();
     resizing();
     failures();
     memory_returns();

@@ -46,8 +46,7 @@ static void text(void) {
     int five = 0;
     short half = 0;
     SAME("hello", "hello%n%hn", &five, &half);
-    CHECK_EQ(five, 5);
-    CHECK_EQ(half, 5);
+    CHECK(five == 5 && half == 5);
     SAME("ab", "ab%");   /* a format that ends behind '%' stops there */
     SAME("x", "x%-0");
     const char *volatile no_format = NULL;
@@ -80,7 +79,7 @@ static void sinks(void) {
     CHECK_EQ(fprintf(f, "%s-%d", "x", 3), 3);
     fclose(f);
     char buf[64];
-    CHECK_EQ(t_read_file("out.txt", buf, sizeof buf), 3);
+    CHECK_MEM(buf, (unsigned)t_read_file("out.txt", buf, sizeof buf), "x-3", 3);
     f = fopen("out.txt", "r");
     errno = 0;
     CHECK_EQ(fprintf(f, "x"), -1);
@@ -140,7 +139,6 @@ static void batching(void) {
     k32_trace_start(trace, 16);
     CHECK_EQ(fprintf(f, "%s", big), 3000);
     unsigned n = k32_trace_stop();
-    CHECK_EQ(n, 3);
     CHECK(n == 3 && trace[0].count == 1024 && trace[1].count == 1024 && trace[2].count == 952);
     k32_fail_call(K32_WriteFile, 1);
     CHECK_EQ(fprintf(f, "%s", big), -1);
@@ -161,8 +159,7 @@ static void batching(void) {
     CHECK(n == 2 && trace[0].count == 7 && trace[1].count == 7);
     fclose(f);
     char back[32];
-    CHECK_EQ(t_read_file("batch.txt", back, sizeof back), 14);
-    CHECK_MEM(back, 14, "one 42;two 42;", 14);
+    CHECK_MEM(back, (unsigned)t_read_file("batch.txt", back, sizeof back), "one 42;two 42;", 14);
 }
 
 int main(void) {

@@ -9,9 +9,15 @@
 #include "harness.h"
 #include "platform/k32_faults.h"
 
+/* A call that answers `want` and leaves errno at `code`. */
+#define ANSWERS(call, want, code) (errno = 0, CHECK_EQ((call), (want)), CHECK_EQ(errno, (code)))
+
 static K32TraceEntry trace[64];
 
-static int writes_in(unsigned n) {
+/* Ends the trace begun with trace_on; answers the WriteFile calls in it. */
+static void trace_on(void) { k32_trace_start(trace, 64); }
+static int writes(void) {
+    unsigned n = k32_trace_stop();
     int w = 0;
     for (unsigned i = 0; i < n && i < 64; ++i) w += trace[i].op == K32_WriteFile;
     return w;
@@ -24,14 +30,11 @@ static FILE *reopen_with(const char *text, const char *mode) {
 
 static void initial_records(void) {
     t_section("initial records");
-    CHECK_EQ(sizeof(FILE), 24);
-    CHECK_EQ(stdin - _orviob, 0);
+    CHECK(sizeof(FILE) == 24 && stdin == _orviob);
     CHECK_HEX(stdin->_flag, 0x89);
     CHECK_HEX(stdout->_flag, 0x8A);
     CHECK_HEX(stderr->_flag, 0x0E);
-    CHECK_EQ(stdin->_bufsiz, 512);
-    CHECK_EQ(stderr->_bufsiz, 1);
-    CHECK(stdin->_base != stdout->_base);
+    CHECK(stdin->_bufsiz == 512 && stderr->_bufsiz == 1 && stdin->_base != stdout->_base);
 }
 
 static void modes(void) {
@@ -41,12 +44,11 @@ static void modes(void) {
     t_write_file("m.txt", "x", 1);
     for (unsigned i = 0; i < sizeof good / sizeof good[0]; ++i) {
         FILE *f = fopen("m.txt", good[i].mode);
-        CHECK(f != NULL);
-        if (!f) continue;
-        CHECK_HEX(f->_flag, good[i].flag);
-        CHECK_EQ(f->_bufsiz, 1024);
-        CHECK_EQ(fclose(f), 0);
+        t_section(good[i].mode);
+        CHECK_HEX(f ? f->_flag : 0, good[i].flag);
+        CHECK(f && f->_bufsiz == 1024 && fclose(f) == 0);
     }
+    t_section("modes refused");
     static const char *const bad[] = {"", "rt", "x", "r+x", "b"};
     for (unsigned i = 0; i < sizeof bad / sizeof bad[0]; ++i) {
         errno = 0;
@@ -54,30 +56,26 @@ static void modes(void) {
         CHECK_EQ(errno, EINVAL);
     }
     errno = 0;
-    CHECK(fopen("missing.txt", "r") == NULL);
-    CHECK_EQ(errno, EACCES);
+    CHECK(fopen("missing.txt", "r") == NULL && errno == EACCES);
     FILE *dev = fopen("/dev/null", "w");
     CHECK(dev && (dev->_flag & _IONBF) && dev->_bufsiz == 1);
     fclose(dev);
     errno = 0;
-    CHECK(fdopen(0x7FFFFFFF, "r") == NULL);
-    CHECK_EQ(errno, EDOM);
-    CHECK(freopen("m.txt", "r", (FILE *)&errno) == NULL);
-    CHECK_EQ(errno, EDOM);
+    CHECK(fdopen(0x7FFFFFFF, "r") == NULL && errno == EDOM);
+    errno = 0;
+    CHECK(freopen("m.txt", "r", (FILE *)&errno) == NULL && errno == EDOM);
 }
 
 /* A full buffer goes out in one write, only when its last byte is stored. */
 static void buffer_rules(void) {
     t_section("buffer rules");
     FILE *f = fopen("w.bin", "wb");
-    k32_trace_start(trace, 64);
+    trace_on();
     for (int i = 0; i < 1023; ++i) putc('a' + i % 26, f);
-    CHECK_EQ(writes_in(k32_trace_stop()), 0);
-    k32_trace_start(trace, 64);
+    CHECK_EQ(writes(), 0);
+    trace_on();
     putc('!', f);
-    unsigned n = k32_trace_stop();
-    CHECK_EQ(writes_in(n), 1);
-    CHECK_EQ(trace[0].count, 1024);
+    CHECK(writes() == 1 && trace[0].count == 1024);
     putc('x', f);
     CHECK_EQ(f->_cnt, 1022);
     CHECK_EQ(fclose(f), 0);
@@ -86,15 +84,13 @@ static void buffer_rules(void) {
 
     f = fopen("u.bin", "wb");
     CHECK_EQ(setvbuf(f, NULL, _IONBF, 0), 0);
-    k32_trace_start(trace, 64);
+    trace_on();
     fputs("abc", f);
-    CHECK_EQ(writes_in(k32_trace_stop()), 3);
+    CHECK_EQ(writes(), 3);
     CHECK_EQ(setvbuf(f, NULL, _IOLBF, 64), 0);
-    k32_trace_start(trace, 64);
+    trace_on();
     fputs("one\ntwo", f);
-    n = k32_trace_stop();
-    CHECK_EQ(writes_in(n), 1);
-    CHECK_EQ(trace[0].count, 4);
+    CHECK(writes() == 1 && trace[0].count == 4);
     CHECK_EQ(setvbuf(f, NULL, 0, 64), -1); /* output pending */
     CHECK_EQ(fflush(f), 0);
     CHECK_EQ(setvbuf(f, NULL, 0, 65536), 0);
@@ -127,10 +123,8 @@ static void block_and_line_io(void) {
     char line[16];
     memset(line, '#', sizeof line);
     CHECK(fgets(line, 1, f) == line && line[0] == '#');
-    CHECK(fgets(line, 3, f) == line);
-    CHECK_STR(line, "ab");
-    CHECK(fgets(line, sizeof line, f) == line);
-    CHECK_STR(line, "\n");
+    CHECK(fgets(line, 3, f) == line && strcmp(line, "ab") == 0);
+    CHECK(fgets(line, sizeof line, f) == line && strcmp(line, "\n") == 0);
     CHECK_EQ(ftell(f), 4); /* the CR LF counts for two */
     CHECK(fgets(line, sizeof line, f) && fgets(line, sizeof line, f));
     CHECK_STR(line, "last");
@@ -242,25 +236,17 @@ static void runs_make_byte_calls(void) {
 static void positions_and_pushback(void) {
     t_section("positions and push-back");
     FILE *f = reopen_with("a\r\nb\r\nc\r\n", "r");
-    CHECK_EQ(getc(f), 'a');
-    CHECK_EQ(ftell(f), 1);
-    CHECK_EQ(getc(f), '\n');
-    CHECK_EQ(getc(f), 'b');
+    CHECK(getc(f) == 'a' && ftell(f) == 1);
+    CHECK(getc(f) == '\n' && getc(f) == 'b');
     CHECK_EQ(ftell(f), 4); /* unread LFs stood as CR LF on the file */
-    CHECK_EQ(getc(f), '\n');
-    CHECK_EQ(fseek(f, 0, SEEK_SET), 0);
+    CHECK(getc(f) == '\n' && fseek(f, 0, SEEK_SET) == 0);
     CHECK_EQ(ungetc('z', f), 'z');
-    CHECK_EQ(f->_cnt, 1);
-    CHECK(f->_ptr == f->_base + f->_bufsiz - 1);
-    CHECK_EQ(getc(f), 'z');
-    CHECK_EQ(ungetc(EOF, f), EOF);
-    errno = 0;
-    CHECK_EQ(fseek(f, 0, 3), -1);
-    CHECK_EQ(errno, 0);
+    CHECK(f->_cnt == 1 && f->_ptr == f->_base + f->_bufsiz - 1);
+    CHECK(getc(f) == 'z' && ungetc(EOF, f) == EOF);
+    ANSWERS(fseek(f, 0, 3), -1, 0);
     while (getc(f) != EOF) {}
     CHECK(feof(f));
-    CHECK_EQ(ungetc('q', f), 'q');
-    CHECK(!feof(f));
+    CHECK(ungetc('q', f) == 'q' && !feof(f));
     fclose(f);
 
     /* Line buffering keeps _cnt at 0, so each step reaches _filbuf or
@@ -268,17 +254,12 @@ static void positions_and_pushback(void) {
     f = fopen("p.txt", "w+");
     setvbuf(f, NULL, _IOLBF, 64);
     fputs("h", f);
-    errno = 0;
-    CHECK_EQ(getc(f), EOF); /* reading a writing stream */
+    ANSWERS(getc(f), EOF, 0); /* reading a writing stream */
     CHECK_EQ(ferror(f), 32);
-    CHECK_EQ(errno, 0);
-    CHECK_EQ(rewind(f), 0);
-    CHECK(ferror(f));
+    CHECK(rewind(f) == 0 && ferror(f));
     clearerr(f);
     CHECK_EQ(getc(f), 'h');
-    errno = 0;
-    CHECK_EQ(putc('x', f), EOF); /* read data in hand */
-    CHECK_EQ(errno, EBADF);
+    ANSWERS(putc('x', f), EOF, EBADF); /* read data in hand */
     fclose(f);
 }
 
@@ -292,16 +273,12 @@ static void failures(void) {
     CHECK_EQ(fflush(f), 0);
     setvbuf(f, NULL, _IONBF, 0);
     k32_fail_call(K32_WriteFile, 1);
-    errno = 0;
-    CHECK_EQ(putc('x', f), EOF);
-    CHECK_EQ(errno, EIO);
+    ANSWERS(putc('x', f), EOF, EIO);
     CHECK(ferror(f));
     fclose(f);
     char buf[16];
     CHECK_EQ(t_read_file("e.bin", buf, sizeof buf), 1); /* the byte that failed goes out at fclose */
-    errno = 0;
-    CHECK_EQ(fclose(f), -1);
-    CHECK_EQ(errno, EBADF);
+    ANSWERS(fclose(f), -1, EBADF);
     CHECK_EQ(fflush(f), -1);
 
     /* A failed write of a full buffer leaves its bytes there: the next
@@ -314,16 +291,13 @@ static void failures(void) {
     k32_fail_call(K32_WriteFile, 1);
     for (int i = 0; i < 7; ++i) putc('a' + i, f);
     CHECK_EQ(putc('h', f), EOF);
-    errno = 0;
-    CHECK_EQ(putc('i', f), EOF);
-    CHECK_EQ(errno, EIO);
+    ANSWERS(putc('i', f), EOF, EIO);
     CHECK_MEM(area + 8, 4, "####", 4);
     CHECK_EQ(fflush(f), 0);
     clearerr(f);
     CHECK_EQ(putc('j', f), 'j');
     fclose(f);
-    CHECK_EQ(t_read_file("e.bin", buf, sizeof buf), 9);
-    CHECK_MEM(buf, 9, "abcdefghj", 9);
+    CHECK_MEM(buf, (unsigned)t_read_file("e.bin", buf, sizeof buf), "abcdefghj", 9);
 
     f = reopen_with("data", "r");
     k32_fail_call(K32_ReadFile, 1);
@@ -334,8 +308,7 @@ static void failures(void) {
     FILE *all[FOPEN_MAX];
     int opened = 0;
     while ((all[opened] = fopen("m.txt", "r")) != NULL) ++opened;
-    CHECK_EQ(errno, EMFILE);
-    CHECK_EQ(opened, FOPEN_MAX - 3);
+    CHECK(errno == EMFILE && opened == FOPEN_MAX - 3);
     while (opened > 0) fclose(all[--opened]);
     CHECK_EQ(fclose(stdin), 0);
     f = fopen("m.txt", "r");
