@@ -10,26 +10,10 @@
 
 typedef unsigned long long u64;
 
-static inline u64 B(double d) {
-    union { double d; u64 u; } v;
-    v.d = d;
-    return v.u;
-}
-static inline unsigned BF(float f) {
-    union { float f; unsigned u; } v;
-    v.f = f;
-    return v.u;
-}
-static inline double D(u64 u) {
-    union { double d; u64 u; } v;
-    v.u = u;
-    return v.d;
-}
-static inline float F(unsigned u) {
-    union { float f; unsigned u; } v;
-    v.u = u;
-    return v.f;
-}
+static inline u64 B(double d) { union { double d; u64 u; } v = {d}; return v.u; }
+static inline unsigned BF(float f) { union { float f; unsigned u; } v = {f}; return v.u; }
+static inline double D(u64 u) { union { u64 u; double d; } v = {u}; return v.d; }
+static inline float F(unsigned u) { union { unsigned u; float f; } v = {u}; return v.f; }
 static inline int within(double v, double lo, double hi) { return v > lo && v < hi; }
 
 /* errno before each call: a value the library never stores. */
@@ -44,16 +28,6 @@ static inline int within(double v, double lo, double hi) { return v > lo && v < 
 #define FPINF 0x7F800000U
 #define FNINF 0xFF800000U
 #define FNAN 0x7FC00000U
-
-/* The bits of a double result and the errno it leaves. */
-#define CHECK_D(expr, want_bits, want_errno)                                    \
-    do {                                                                       \
-        errno = OK;                                                            \
-        u64 got_ = B(expr);                                                    \
-        int err_ = errno;                                                      \
-        CHECK_HEX(got_, (u64)(want_bits));                                     \
-        t_check_int(err_, (want_errno), #expr " errno", __FILE__, __LINE__);   \
-    } while (0)
 
 /* A table row: a call made as the table is built, the bits of its result
    with the errno it left, and what they must be. R and RF rows want errno
