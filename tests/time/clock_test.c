@@ -44,6 +44,17 @@ static int convert(unsigned long long v, time_t *t) {
     return ConvertTime(&ft, t);
 }
 
+static BOOL fields_of(unsigned long long v, SYSTEMTIME *st) {
+    FILETIME ft = ft_of(v);
+    return FileTimeToSystemTime(&ft, st);
+}
+
+/* The local file time of v, or ~0 when the call fails. */
+static unsigned long long local_of(unsigned long long v) {
+    FILETIME ft = ft_of(v), local;
+    return FileTimeToLocalFileTime(&ft, &local) ? value(local) : ~0ULL;
+}
+
 /* ConvertTime(ConvertTimeInverse(t)) == t across mktime's range. */
 static int file_round_trips(void) {
     int bad = 0;
@@ -101,17 +112,13 @@ int main(void) {
 
     t_section("stand-in calendar fields");
     SYSTEMTIME st;
-    FILETIME ft = ft_of(0), back;
-    CHECK(FileTimeToSystemTime(&ft, &st) && same_time(&st, date(1601, 1, 1, 0, 0, 0, 0), 1));
-    ft = ft_of(EPOCH + 9999999);
-    CHECK(FileTimeToSystemTime(&ft, &st) && same_time(&st, date(1970, 1, 1, 0, 0, 0, 999), 4));
-    ft = ft_of(0x8000000000000000ULL);
+    FILETIME ft, back;
+    CHECK(fields_of(0, &st) && same_time(&st, date(1601, 1, 1, 0, 0, 0, 0), 1));
+    CHECK(fields_of(EPOCH + 9999999, &st) && same_time(&st, date(1970, 1, 1, 0, 0, 0, 999), 4));
     SetLastError(0);
-    CHECK(!FileTimeToSystemTime(&ft, &st));
+    CHECK(!fields_of(0x8000000000000000ULL, &st));
     CHECK_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
-    ft = ft_of(0x7FFFFFFFFFFFFFFFULL);
-    CHECK(FileTimeToSystemTime(&ft, &st));
-    CHECK_EQ(st.wYear, 30828);
+    CHECK(fields_of(0x7FFFFFFFFFFFFFFFULL, &st) && st.wYear == 30828);
     st = date(2000, 2, 29, 23, 59, 59, 999);
     CHECK(SystemTimeToFileTime(&st, &ft));
     CHECK_HEX(value(ft), EPOCH + 951868799ULL * 10000000 + 9990000);
@@ -125,12 +132,8 @@ int main(void) {
         {2000, 1, 0, 1, 0, 0, 0, 1000}};
     for (unsigned i = 0; i < sizeof bad / sizeof bad[0]; ++i) CHECK(!SystemTimeToFileTime(&bad[i], &ft));
     int bad_trips = 0; /* fields and back, over four centuries of odd steps */
-    for (unsigned long long v = 0; v < 0x0300000000000000ULL; v += 0x0000123456789ABCULL) {
-        ft = ft_of(v);
-        if (!FileTimeToSystemTime(&ft, &st) || !SystemTimeToFileTime(&st, &back) ||
-            value(back) != v - v % 10000)
-            ++bad_trips;
-    }
+    for (unsigned long long v = 0; v < 0x0300000000000000ULL; v += 0x0000123456789ABCULL)
+        bad_trips += !fields_of(v, &st) || !SystemTimeToFileTime(&st, &back) || value(back) != v - v % 10000;
     CHECK_EQ(bad_trips, 0);
     freeze(EPOCH + 951868799ULL * 10000000 + 1234567);
     GetSystemTime(&st);
@@ -140,36 +143,28 @@ int main(void) {
 
     t_section("local file times follow the offset in force now");
     k32_set_time_zone("XST5XDT,J1/0,J365/25");
-    ft = ft_of(EPOCH);
-    CHECK(FileTimeToLocalFileTime(&ft, &back));
-    CHECK_HEX(value(back), EPOCH - 4ULL * 3600 * 10000000);
-    CHECK(LocalFileTimeToFileTime(&back, &ft));
-    CHECK_HEX(value(ft), EPOCH);
+    CHECK_HEX(local_of(EPOCH), EPOCH - 4ULL * 3600 * 10000000);
+    back = ft_of(EPOCH - 4ULL * 3600 * 10000000);
+    CHECK(LocalFileTimeToFileTime(&back, &ft) && value(ft) == EPOCH);
     GetLocalTime(&st);
     CHECK(same_time(&st, date(2000, 2, 29, 19, 59, 59, 123), 2));
     k32_set_time_zone("EST5EDT");
     freeze(EPOCH + 1610000000ULL * 10000000); /* January 2021: standard time */
-    ft = ft_of(EPOCH);
-    CHECK(FileTimeToLocalFileTime(&ft, &back));
-    CHECK_HEX(value(back), EPOCH - 5ULL * 3600 * 10000000);
+    CHECK_HEX(local_of(EPOCH), EPOCH - 5ULL * 3600 * 10000000);
 
     t_section("ConvertTime and ConvertTimeInverse");
     k32_set_time_zone("UTC0");
     time_t t = 77;
-    CHECK(convert(EPOCH, &t) == 1 && t == 0);
     CHECK(convert(EPOCH + 25000000, &t) == 1 && t == 2);
     st = date(1900, 1, 1, 0, 0, 0, 0);
-    CHECK(SystemTimeToFileTime(&st, &ft));
     t = 77;
-    CHECK_EQ(ConvertTime(&ft, &t), 1); /* out of mktime's range: -1 is a success */
-    CHECK_EQ(t, -1);
+    /* out of mktime's range: -1 is a success */
+    CHECK(SystemTimeToFileTime(&st, &ft) && ConvertTime(&ft, &t) == 1 && t == -1);
     t = 77;
-    CHECK_EQ(convert(0xFFFFFFFFFFFFFFFFULL, &t), 0); /* no calendar fields for it */
-    CHECK_EQ(t, 77);
-    CHECK_EQ(file_round_trips(), 0);
-    /* The last rule's winter period is the one it names as daylight time,
+    CHECK(convert(0xFFFFFFFFFFFFFFFFULL, &t) == 0 && t == 77); /* no calendar fields for it */
+    /* In UTC and zones west and east; the last rule's winter period is the one it names as daylight time,
        an hour behind its standard time. */
-    static const char *const zones[] = {"EST5", "XST5XDT,J1/0,J365/25", "<+0530>-5:30",
+    static const char *const zones[] = {"UTC0", "EST5", "XST5XDT,J1/0,J365/25", "<+0530>-5:30",
                                         "CET-1CEST,M3.5.0,M10.5.0/3", "IST-1GMT0,M10.5.0,M3.5.0/1"};
     static const unsigned long long seasons[] = {1625140800ULL, 1610000000ULL}; /* July, January 2021 */
     for (unsigned i = 0; i < sizeof zones / sizeof zones[0]; ++i) {
@@ -184,7 +179,6 @@ int main(void) {
     }
 
     t_section("platform line");
-    CHECK_EQ(IsWinNT(), 1);
-    CHECK_EQ(GetVersion() >> 31, 0);
+    CHECK(IsWinNT() == 1 && GetVersion() >> 31 == 0);
     return t_finish();
 }
