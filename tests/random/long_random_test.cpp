@@ -9,8 +9,6 @@ public:
 };
 unsigned long __long_random(unsigned long limit);
 
-static_assert(sizeof(__random_generator) == 228);
-
 // One draw, as the library's instance makes it.
 static unsigned long draw(__random_generator &g, unsigned long limit) {
     g.index1 = (g.index1 + 1) % 55;

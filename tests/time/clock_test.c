@@ -81,17 +81,18 @@ int main(void) {
 
     t_section("seconds from the file time");
     /* 2.5 s truncated, toward zero, not -3; past 2038 the count wraps */
-    static const struct { unsigned long long ft; time_t t; } seconds[] = {
-        {EPOCH, 0}, {EPOCH + 25000000, 2}, {EPOCH - 25000000, -2},
-        {EPOCH + 2147483647ULL * 10000000 + 9999999, 2147483647},
-        {EPOCH + 2147483648ULL * 10000000, -2147483647 - 1},
-        {0, (time_t)(unsigned long)(-11644473600LL)}};
+    static const struct { int line; unsigned long long ft; time_t t; } seconds[] = {
+        {__LINE__, EPOCH, 0}, {__LINE__, EPOCH + 25000000, 2}, {__LINE__, EPOCH - 25000000, -2},
+        {__LINE__, EPOCH + 2147483647ULL * 10000000 + 9999999, 2147483647},
+        {__LINE__, EPOCH + 2147483648ULL * 10000000, -2147483647 - 1},
+        {__LINE__, 0, (time_t)(unsigned long)(-11644473600LL)}};
     for (unsigned i = 0; i < sizeof seconds / sizeof seconds[0]; ++i) {
-        time_t t = 99, u = 99;
+        time_t t = 99, u = 99, want = seconds[i].t;
+        int line = seconds[i].line;
         freeze(seconds[i].ft);
-        CHECK_EQ(time(NULL), seconds[i].t);
-        CHECK(time(&t) == seconds[i].t && t == seconds[i].t);
-        CHECK(_orv_time(&u) == seconds[i].t && u == seconds[i].t);
+        t_check_int(time(NULL), want, "time(NULL)", __FILE__, line);
+        t_check(time(&t) == want && t == want, "time(&t)", __FILE__, line);
+        t_check(_orv_time(&u) == want && u == want, "_orv_time(&u)", __FILE__, line);
     }
 
     t_section("clock");
