@@ -9,50 +9,30 @@
 
 #define EPOCH 116444736000000000ULL
 
-static FILETIME ft_of(unsigned long long v) {
-    FILETIME ft;
-    ft.dwLowDateTime = (DWORD)v;
-    ft.dwHighDateTime = (DWORD)(v >> 32);
-    return ft;
-}
-
+static FILETIME ft_of(unsigned long long v) { FILETIME ft = {(DWORD)v, (DWORD)(v >> 32)}; return ft; }
 static unsigned long long value(FILETIME ft) {
     return ((unsigned long long)ft.dwHighDateTime << 32) | ft.dwLowDateTime;
 }
-
-static void freeze(unsigned long long v) {
-    FILETIME ft = ft_of(v);
-    k32_set_clock(&ft);
-}
-
-static SYSTEMTIME date(int y, int mon, int d, int h, int mi, int s, int ms) {
-    SYSTEMTIME st = {0};
-    st.wYear = (WORD)y, st.wMonth = (WORD)mon, st.wDay = (WORD)d;
-    st.wHour = (WORD)h, st.wMinute = (WORD)mi, st.wSecond = (WORD)s;
-    st.wMilliseconds = (WORD)ms;
-    return st;
-}
-
-/* The fields of a date and its day of the week. */
-static int same_time(const SYSTEMTIME *st, SYSTEMTIME want, int day_of_week) {
-    want.wDayOfWeek = (WORD)day_of_week;
-    return t_memeq(st, &want, sizeof want);
-}
-
-static int convert(unsigned long long v, time_t *t) {
-    FILETIME ft = ft_of(v);
-    return ConvertTime(&ft, t);
-}
-
+static void freeze(unsigned long long v) { FILETIME ft = ft_of(v); k32_set_clock(&ft); }
+static int convert(unsigned long long v, time_t *t) { FILETIME ft = ft_of(v); return ConvertTime(&ft, t); }
 static BOOL fields_of(unsigned long long v, SYSTEMTIME *st) {
     FILETIME ft = ft_of(v);
     return FileTimeToSystemTime(&ft, st);
 }
-
 /* The local file time of v, or ~0 when the call fails. */
 static unsigned long long local_of(unsigned long long v) {
     FILETIME ft = ft_of(v), local;
     return FileTimeToLocalFileTime(&ft, &local) ? value(local) : ~0ULL;
+}
+
+static SYSTEMTIME date(int y, int mon, int d, int h, int mi, int s, int ms) {
+    SYSTEMTIME st = {(WORD)y, (WORD)mon, 0, (WORD)d, (WORD)h, (WORD)mi, (WORD)s, (WORD)ms};
+    return st;
+}
+/* The fields of a date and its day of the week. */
+static int same_time(const SYSTEMTIME *st, SYSTEMTIME want, int day_of_week) {
+    want.wDayOfWeek = (WORD)day_of_week;
+    return t_memeq(st, &want, sizeof want);
 }
 
 /* ConvertTime(ConvertTimeInverse(t)) == t across mktime's range. */

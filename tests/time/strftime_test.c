@@ -5,15 +5,7 @@
 #include "harness.h"
 
 static struct tm at(int year, int mon, int mday, int hour, int min, int sec, int wday, int yday) {
-    struct tm r = {0};
-    r.tm_year = year - 1900;
-    r.tm_mon = mon - 1;
-    r.tm_mday = mday;
-    r.tm_hour = hour;
-    r.tm_min = min;
-    r.tm_sec = sec;
-    r.tm_wday = wday;
-    r.tm_yday = yday;
+    struct tm r = {sec, min, hour, mday, mon - 1, year - 1900, wday, yday, 0, {0, 0}};
     return r;
 }
 
@@ -34,7 +26,6 @@ int main(void) {
     CHECK_STR(fmt("%c", &leap_day), "Sun Feb 29 13:05:09 2004\n");
     CHECK_STR(fmt("%x", &leap_day), "Sun Feb 29, 2004");
     CHECK_STR(fmt("[%X]", &leap_day), "[13:05:09 ]");
-    CHECK_EQ(strftime(out, sizeof out, "%c", &leap_day), 25);
     struct tm epoch = at(1970, 1, 1, 0, 0, 0, 4, 0);
     char *text = asctime(&epoch);
     fmt("%c", &leap_day);
@@ -103,7 +94,7 @@ int main(void) {
     t_section("size limits");
     struct tm y = at(1970, 1, 1, 0, 0, 0, 4, 0);
     const char *volatile empty = "";
-    for (int i = 0; i < 16; ++i) out[i] = '#';
+    t_memset(out, '#', 16);
     CHECK_EQ(strftime(out, 5, "%Y", &y), 4);
     CHECK_MEM(out, 6, "1970\0#", 6);
     CHECK_EQ(strftime(out, 4, "%Y", &y), 0);
@@ -112,13 +103,13 @@ int main(void) {
     CHECK_STR(out, "abc");
     CHECK_EQ(strftime(out, 6, "ab%Y", &y), 0); /* the conversion no longer fits */
     CHECK_EQ(strftime(out, 7, "ab%Y", &y), 6);
-    for (int i = 0; i < 16; ++i) out[i] = '#';
+    t_memset(out, '#', 16);
     CHECK_EQ(strftime(out, 1, "x", &y), 0);
     CHECK_EQ(strftime(out, 0, empty, &y), 0);
     CHECK_EQ(out[0], '#'); /* nothing stored */
     CHECK_EQ(strftime(out, 1, empty, &y), 0);
     CHECK_EQ(out[0], 0);
-    CHECK_EQ(strftime(out, 26, "%c", &y), 25);
+    CHECK_EQ(strftime(out, 26, "%c", &y), 25); /* 24 characters and the newline */
     CHECK_EQ(strftime(out, 25, "%c", &y), 0);
 
     return t_finish();
