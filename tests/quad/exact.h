@@ -97,7 +97,12 @@ static inline void x_add_qprod(exact *x, quad a, quad b, int negate) {
 }
 
 static inline exact x_of_q(quad q) { exact x; x_zero(&x); x_add_q(&x, q, 0); return x; }
-static inline exact x_of_qprod(quad a, quad b) { exact x; x_zero(&x); x_add_qprod(&x, a, b, 0); return x; }
+static inline exact x_of_qprod(quad a, quad b) {
+    exact x;
+    x_zero(&x);
+    x_add_qprod(&x, a, b, 0);
+    return x;
+}
 
 /* The value to about 64 bits before its rounding: enough to size an error. */
 static inline double x_approx(const exact *x) {

@@ -14,7 +14,10 @@ static unsigned long long value(FILETIME ft) {
     return ((unsigned long long)ft.dwHighDateTime << 32) | ft.dwLowDateTime;
 }
 static void freeze(unsigned long long v) { FILETIME ft = ft_of(v); k32_set_clock(&ft); }
-static int convert(unsigned long long v, time_t *t) { FILETIME ft = ft_of(v); return ConvertTime(&ft, t); }
+static int convert(unsigned long long v, time_t *t) {
+    FILETIME ft = ft_of(v);
+    return ConvertTime(&ft, t);
+}
 static BOOL fields_of(unsigned long long v, SYSTEMTIME *st) {
     FILETIME ft = ft_of(v);
     return FileTimeToSystemTime(&ft, st);
@@ -114,7 +117,8 @@ int main(void) {
     for (unsigned i = 0; i < sizeof bad / sizeof bad[0]; ++i) CHECK(!SystemTimeToFileTime(&bad[i], &ft));
     int bad_trips = 0; /* fields and back, over four centuries of odd steps */
     for (unsigned long long v = 0; v < 0x0300000000000000ULL; v += 0x0000123456789ABCULL)
-        bad_trips += !fields_of(v, &st) || !SystemTimeToFileTime(&st, &back) || value(back) != v - v % 10000;
+        bad_trips +=
+            !fields_of(v, &st) || !SystemTimeToFileTime(&st, &back) || value(back) != v - v % 10000;
     CHECK_EQ(bad_trips, 0);
     freeze(EPOCH + 951868799ULL * 10000000 + 1234567);
     GetSystemTime(&st);
@@ -143,8 +147,8 @@ int main(void) {
     CHECK(SystemTimeToFileTime(&st, &ft) && ConvertTime(&ft, &t) == 1 && t == -1);
     t = 77;
     CHECK(convert(0xFFFFFFFFFFFFFFFFULL, &t) == 0 && t == 77); /* no calendar fields for it */
-    /* In UTC and zones west and east; the last rule's winter period is the one it names as daylight time,
-       an hour behind its standard time. */
+    /* In UTC and zones west and east; the last rule's winter period is
+       the one it names as daylight time, an hour behind its standard time. */
     static const char *const zones[] = {"UTC0", "EST5", "XST5XDT,J1/0,J365/25", "<+0530>-5:30",
                                         "CET-1CEST,M3.5.0,M10.5.0/3", "IST-1GMT0,M10.5.0,M3.5.0/1"};
     static const unsigned long long seasons[] = {1625140800ULL, 1610000000ULL}; /* July, January 2021 */
