@@ -17,7 +17,7 @@ static inline void check_irows(const irow *r, unsigned n, const char *file) {
 #define CHECK_IROWS(rows) check_irows(rows, sizeof rows / sizeof rows[0], __FILE__)
 
 /* "Y-M-D h:m:s wday yday isdst", in a buffer of its own. */
-static const char *text_of(const struct tm *r) {
+static inline const char *text_of(const struct tm *r) {
     static char buf[96];
     char *p = buf;
     const int v[9] = {r->tm_year + 1900, r->tm_mon + 1, r->tm_mday, r->tm_hour, r->tm_min,
