@@ -66,32 +66,28 @@ int main(int argc, char **argv) {
     t_remove("C:/TMP/abcde00001");
     t_remove("C:/TMP/tpn00002");
     CHECK_EQ(t_write_file("C:/TMP/tpn00003", "", 0), 0);
-    char *p = tempnam("C:\\TMP", "abcdefgh");
-    CHECK_STR(p, "C:\\TMP\\abcde00001");
-    free(p);
-    p = tempnam("C:\\TMP\\", NULL);
-    CHECK_STR(p, "C:\\TMP\\tpn00002"); /* the same counter went on */
-    free(p);
-    p = tempnam("C:\\TMP", NULL);
-    CHECK_STR(p, "C:\\TMP\\tpn00004");
-    free(p);
-    p = tempnam("C:\\TMP", "");
-    CHECK_STR(p, "C:\\TMP\\00005");
-    free(p);
+    /* prefixes cut to five characters; the same counter goes on, past
+       the name that exists */
+    static const char *const given[][3] = {
+        {"C:\\TMP", "abcdefgh", "C:\\TMP\\abcde00001"}, {"C:\\TMP\\", NULL, "C:\\TMP\\tpn00002"},
+        {"C:\\TMP", NULL, "C:\\TMP\\tpn00004"}, {"C:\\TMP", "", "C:\\TMP\\00005"}};
+    for (unsigned i = 0; i < 4; ++i) {
+        char *p = tempnam(given[i][0], given[i][1]);
+        CHECK_STR(p, given[i][2]);
+        free(p);
+    }
 
     t_section("the temporary directory");
     char *dir = _orv_get_tmpdir();
-    CHECK(dir != NULL);
-    CHECK(_orv_get_tmpdir() == dir);
+    CHECK(dir != NULL && _orv_get_tmpdir() == dir);
     unsigned len = t_strlen(dir);
-    CHECK(len > 1);
-    CHECK(dir[len - 1] == '\\' || dir[len - 1] == '/');
+    CHECK(len > 1 && (dir[len - 1] == '\\' || dir[len - 1] == '/'));
     char buf[1100];
     CHECK_EQ(GetTempPathA(0, NULL), len + 1);
     CHECK_EQ(GetTempPathA(len, buf), len + 1);
     CHECK_EQ(GetTempPathA(len + 1, buf), len);
     CHECK_STR(buf, dir);
-    p = tempnam(NULL, "dflt");
+    char *p = tempnam(NULL, "dflt");
     CHECK(starts_with(p, dir));
     CHECK_STR(p + len, "dflt00006");
     free(p);
@@ -101,15 +97,11 @@ int main(int argc, char **argv) {
     free(p);
     t_child child;
     t_run_child(&child, run_with_long_tmp, NULL, "", 0);
-    CHECK(child.exited);
-    CHECK_EQ(child.status, 0);
+    CHECK(child.exited && child.status == 0);
 
     t_section("tmpfile leaves nothing behind");
     char path[1100];
-    t_memset(path, 0, sizeof path);
-    for (unsigned i = 0; i < len; ++i) path[i] = dir[i];
-    const char name[] = "tfl00001";
-    for (unsigned i = 0; i < sizeof name; ++i) path[len + i] = name[i];
+    for (unsigned i = 0; i <= len + 8; ++i) path[i] = i < len ? dir[i] : "tfl00001"[i - len];
     path[len - 1] = '/';
     t_remove(path);
     FILE *f = tmpfile();

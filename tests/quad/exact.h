@@ -33,6 +33,13 @@ static inline void x_negate(exact *x) {
     for (int i = 0; i < X_WORDS; ++i, c >>= 32) x->w[i] = (unsigned)(c += (unsigned)~x->w[i]);
 }
 
+/* x += y, x -= y */
+static inline void x_add(exact *x, const exact *y) {
+    u64 c = 0;
+    for (int i = 0; i < X_WORDS; ++i, c >>= 32) x->w[i] = (unsigned)(c += (u64)x->w[i] + y->w[i]);
+}
+static inline void x_sub(exact *x, const exact *y) { exact t = *y; x_negate(&t); x_add(x, &t); }
+
 /* x += sign * m * 2^(shift - 640), m an integer of four words. */
 static inline void x_add_int(exact *x, const unsigned m[4], int shift, int negative) {
     exact t;
@@ -44,20 +51,6 @@ static inline void x_add_int(exact *x, const unsigned m[4], int shift, int negat
         if (word + i + 1 < X_WORDS) t.w[word + i + 1] |= (unsigned)(v >> 32);
     }
     if (negative) x_negate(&t);
-    u64 c = 0;
-    for (int i = 0; i < X_WORDS; ++i, c >>= 32) x->w[i] = (unsigned)(c += (u64)x->w[i] + t.w[i]);
-}
-
-/* x += y */
-static inline void x_add(exact *x, const exact *y) {
-    u64 c = 0;
-    for (int i = 0; i < X_WORDS; ++i, c >>= 32) x->w[i] = (unsigned)(c += (u64)x->w[i] + y->w[i]);
-}
-
-/* x -= y */
-static inline void x_sub(exact *x, const exact *y) {
-    exact t = *y;
-    x_negate(&t);
     x_add(x, &t);
 }
 
@@ -101,6 +94,14 @@ static inline void x_add_qprod(exact *x, quad a, quad b, int negate) {
     x_add_prod(x, a.hi, b.lo, negate);
     x_add_prod(x, a.lo, b.hi, negate);
     x_add_prod(x, a.lo, b.lo, negate);
+}
+
+static inline exact x_of_q(quad q) { exact x; x_zero(&x); x_add_q(&x, q, 0); return x; }
+static inline exact x_of_qprod(quad a, quad b) {
+    exact x;
+    x_zero(&x);
+    x_add_qprod(&x, a, b, 0);
+    return x;
 }
 
 /* The value to about 64 bits before its rounding: enough to size an error. */

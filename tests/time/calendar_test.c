@@ -6,37 +6,16 @@
 
 #include "harness.h"
 #include "platform/linux/time_control.h"
-
-static void check_tm(const struct tm *r, int year, int mon, int mday, int hour, int min, int sec,
-                     int wday, int yday) {
-    CHECK_EQ(r->tm_year, year - 1900);
-    CHECK_EQ(r->tm_mon, mon - 1);
-    CHECK_EQ(r->tm_mday, mday);
-    CHECK_EQ(r->tm_hour, hour);
-    CHECK_EQ(r->tm_min, min);
-    CHECK_EQ(r->tm_sec, sec);
-    CHECK_EQ(r->tm_wday, wday);
-    CHECK_EQ(r->tm_yday, yday);
-    CHECK_EQ(r->tm_isdst, 0);
-}
+#include "timecheck.h"
 
 static struct tm fields(int year, int mon, int mday, int hour, int min, int sec) {
-    struct tm r = {0};
-    r.tm_year = year - 1900;
-    r.tm_mon = mon - 1;
-    r.tm_mday = mday;
-    r.tm_hour = hour;
-    r.tm_min = min;
-    r.tm_sec = sec;
-    r.tm_wday = 99; /* never read */
-    r.tm_yday = 999;
-    r.tm_isdst = 77;
-    return r;
+    struct tm r = {sec, min, hour, mday, mon - 1, year - 1900, 99, 999, 77, {0, 0}};
+    return r;   /* wday, yday and isdst are never read */
 }
 
+static time_t make_tm(struct tm r) { return mktime(&r); }
 static time_t make(int year, int mon, int mday, int hour, int min, int sec) {
-    struct tm r = fields(year, mon, mday, hour, min, sec);
-    return mktime(&r);
+    return make_tm(fields(year, mon, mday, hour, min, sec));
 }
 
 static int leap(int y) { return (y % 4 == 0 && y % 100 != 0) || y % 400 == 0; }
@@ -73,110 +52,79 @@ int main(void) {
     k32_set_time_zone("UTC0");
 
     t_section("gmtime at the edges");
-    time_t t = 0;
-    check_tm(gmtime(&t), 1970, 1, 1, 0, 0, 0, 4, 0);
-    t = -1;
-    check_tm(gmtime(&t), 1969, 12, 31, 23, 59, 59, 3, 364);
-    t = INT_MAX;
-    check_tm(gmtime(&t), 2038, 1, 19, 3, 14, 7, 2, 18);
-    t = INT_MIN;
-    check_tm(gmtime(&t), 1901, 12, 13, 20, 45, 52, 5, 346);
-    t = 951782400;
-    check_tm(gmtime(&t), 2000, 2, 29, 0, 0, 0, 2, 59);
-    t = 978307199;
-    check_tm(gmtime(&t), 2000, 12, 31, 23, 59, 59, 0, 365);
+    static const struct { time_t t; const char *text; } edges[] = {
+        {0, "1970-1-1 0:0:0 4 0 0"}, {-1, "1969-12-31 23:59:59 3 364 0"},
+        {INT_MAX, "2038-1-19 3:14:7 2 18 0"}, {INT_MIN, "1901-12-13 20:45:52 5 346 0"},
+        {951782400, "2000-2-29 0:0:0 2 59 0"}, {978307199, "2000-12-31 23:59:59 0 365 0"}};
+    for (unsigned i = 0; i < sizeof edges / sizeof edges[0]; ++i)
+        CHECK_STR(text_of(gmtime(&edges[i].t)), edges[i].text);
+    time_t t = 978307199;
     struct tm *a = gmtime(&t), *b = localtime(&t);
     CHECK(a == b); /* one static record */
-    CHECK_EQ(a->__tm_reserved[0], 0);
-    CHECK_EQ(a->__tm_reserved[1], 0);
+    CHECK(a->__tm_reserved[0] == 0 && a->__tm_reserved[1] == 0);
 
     t_section("every day of the range");
     sweep();
 
     t_section("calendar helpers");
-    CHECK_EQ(_daynum_(70), 4);
-    CHECK_EQ(_daynum_(0), 1);
-    CHECK_EQ(_daynum_(1), 2);
-    CHECK_EQ(_daynum_(100), 6);
-    CHECK_EQ(_daynum_(138), 5);
-    CHECK_EQ(_daynum_(199), 4);
-    CHECK_EQ(_dpmonth_(1, 0), 28);   /* 1900 */
-    CHECK_EQ(_dpmonth_(1, 100), 29); /* 2000 */
-    CHECK_EQ(_dpmonth_(1, 200), 28); /* 2100 */
-    CHECK_EQ(_dpmonth_(1, 96), 29);
-    CHECK_EQ(_dpmonth_(1, 199), 28);
-    CHECK_EQ(_dpmonth_(11, 199), 31);
-    CHECK_EQ(_dpmonth_(1, 96), 29); /* the cache follows the year */
-    CHECK_EQ(_dpmonth_(3, 96), 30);
+    const irow helpers[] = {
+        IR(_daynum_(70), 4), IR(_daynum_(0), 1), IR(_daynum_(1), 2), IR(_daynum_(100), 6),
+        IR(_daynum_(138), 5), IR(_daynum_(199), 4), IR(_dpmonth_(1, 0), 28),   /* 1900 */
+        IR(_dpmonth_(1, 100), 29), IR(_dpmonth_(1, 200), 28), IR(_dpmonth_(1, 96), 29),
+        IR(_dpmonth_(1, 199), 28), IR(_dpmonth_(11, 199), 31),
+        IR(_dpmonth_(1, 96), 29), IR(_dpmonth_(3, 96), 30),   /* the cache follows the year */
+    };
+    CHECK_IROWS(helpers);
     CHECK_EQ(difftime(5, -3), 8.0);
-    CHECK(difftime(INT_MAX, INT_MIN) == 4294967295.0);
-    CHECK(difftime(INT_MIN, INT_MAX) == -4294967295.0);
+    CHECK(difftime(INT_MAX, INT_MIN) == 4294967295.0 && difftime(INT_MIN, INT_MAX) == -4294967295.0);
 
     t_section("mktime normalises");
-    struct tm r = fields(1999, 13, 1, 0, 0, 0); /* tm_mon 12 */
-    CHECK_EQ(mktime(&r), 946684800);
-    check_tm(&r, 2000, 1, 1, 0, 0, 0, 6, 0);
-    r = fields(2000, 0, 15, 0, 0, 0); /* tm_mon -1 */
-    CHECK_EQ(mktime(&r), 945216000);
-    check_tm(&r, 1999, 12, 15, 0, 0, 0, 3, 348);
-    r = fields(1970, 1, 32, 0, 0, 0);
-    CHECK_EQ(mktime(&r), 31 * 86400);
-    check_tm(&r, 1970, 2, 1, 0, 0, 0, 0, 31);
-    r = fields(1996, 3, 0, 12, 0, 0); /* day 0: the last of February */
-    CHECK_EQ(mktime(&r), 825595200);
-    check_tm(&r, 1996, 2, 29, 12, 0, 0, 4, 59);
-    CHECK_EQ(make(1970, 1, 1, 0, 0, -1), -1); /* one second before: not a failure */
-    r = fields(1980, 6, 15, 0, 0, -1);
-    CHECK_EQ(mktime(&r), 329875199);
-    check_tm(&r, 1980, 6, 14, 23, 59, 59, 6, 165);
-    CHECK_EQ(make(1970, 1, 1, 48, -90, 3600), 2 * 86400 - 90 * 60 + 3600);
-    CHECK_EQ(make(1970, 1, 400, 0, 0, 0), 399 * 86400); /* days carry through months */
-    CHECK_EQ(make(1971, -23, 1, 0, 0, 0), make(1969, 1, 1, 0, 0, 0)); /* tm_mon -24 */
-    CHECK_EQ(make(1971, -24, 1, 0, 0, 0), make(1968, 12, 1, 0, 0, 0)); /* tm_mon -25 */
-    CHECK_EQ(make(1970, 1, 31, 23, 59, 60), 31 * 86400);
-    CHECK_EQ(make(1970, 1, 1, 0, 0, 1000000), 1000000);
-    CHECK_EQ(make(1970, 1, 1, -1, 0, 0), -3600);
+    /* tm_mon 12 and -1, day 32, day 0 is the last of February, second -1 */
+    const struct { struct tm in; time_t t; const char *text; } norm[] = {
+        {fields(1999, 13, 1, 0, 0, 0), 946684800, "2000-1-1 0:0:0 6 0 0"},
+        {fields(2000, 0, 15, 0, 0, 0), 945216000, "1999-12-15 0:0:0 3 348 0"},
+        {fields(1970, 1, 32, 0, 0, 0), 31 * 86400, "1970-2-1 0:0:0 0 31 0"},
+        {fields(1996, 3, 0, 12, 0, 0), 825595200, "1996-2-29 12:0:0 4 59 0"},
+        {fields(1980, 6, 15, 0, 0, -1), 329875199, "1980-6-14 23:59:59 6 165 0"},
+    };
+    for (unsigned i = 0; i < sizeof norm / sizeof norm[0]; ++i) {
+        struct tm r = norm[i].in;
+        CHECK_EQ(mktime(&r), norm[i].t);
+        CHECK_STR(text_of(&r), norm[i].text);
+    }
+    const irow rows[] = {
+        IR(make(1970, 1, 1, 0, 0, -1), -1),   /* one second before: not a failure */
+        IR(make(1970, 1, 1, 48, -90, 3600), 2 * 86400 - 90 * 60 + 3600),
+        IR(make(1970, 1, 400, 0, 0, 0), 399 * 86400),   /* days carry through months */
+        IR(make(1971, -23, 1, 0, 0, 0), make(1969, 1, 1, 0, 0, 0)),   /* tm_mon -24 */
+        IR(make(1971, -24, 1, 0, 0, 0), make(1968, 12, 1, 0, 0, 0)),  /* tm_mon -25 */
+        IR(make(1970, 1, 31, 23, 59, 60), 31 * 86400), IR(make(1970, 1, 1, 0, 0, 1000000), 1000000),
+        IR(make(1970, 1, 1, -1, 0, 0), -3600),
+    };
+    CHECK_IROWS(rows);
 
     t_section("mktime limits");
-    CHECK_EQ(make(2037, 12, 31, 23, 59, 59), 2145916799);
-    CHECK_EQ(make(1903, 1, 1, 0, 0, 0), -2114380800);
-    CHECK_EQ(make(2038, 1, 1, 0, 0, 0), -1);
-    CHECK_EQ(make(1902, 12, 31, 23, 59, 59), -1);
-    CHECK_EQ(make(2037, 13, 1, 0, 0, 0), -1);  /* carried into 2038 */
-    CHECK_EQ(make(2037, 12, 32, 0, 0, 0), -1);
-    CHECK_EQ(make(1970, 1, -100000, 0, 0, 0), -1);
-    CHECK_EQ(make(1970, 1, 24855, 0, 0, 0), -1); /* folds into 2038 */
-    CHECK_EQ(make(2037, 1, 365, 0, 0, 0), 2145830400);
-    CHECK_EQ(make(1970, 1, -24854, 0, 0, 0), -24855 * 86400);
-    CHECK_EQ(make(1970, 1, -24855, 0, 0, 0), -1); /* day number -24856 */
-    CHECK_EQ(make(2037, 12, 31, 0, 0, 0), 2145830400);
-    r = fields(2037, 12, 31, 23, 59, 59);
-    r.tm_sec = 60 * 24 * 3600; /* pushes past the range through the carries */
-    CHECK_EQ(mktime(&r), -1);
-    r = fields(1970, 1, 1, 0, 0, 0);
-    r.tm_mon = INT_MAX;
-    CHECK_EQ(mktime(&r), -1);
-    r = fields(1970, 1, 1, 0, 0, 0);
-    r.tm_year = INT_MIN;
-    CHECK_EQ(mktime(&r), -1);
-    r = fields(1970, 1, 1, 0, 0, 0);
-    r.tm_year = INT_MAX;
-    CHECK_EQ(mktime(&r), -1);
-    r = fields(1970, 1, 1, 0, 0, 0);
-    r.tm_mday = INT_MIN;
-    CHECK_EQ(mktime(&r), -1);
-    r = fields(1970, 1, 1, 0, 0, 0);
-    r.tm_year = INT_MIN + 68; /* year INT_MAX - 1 after 1970 */
-    r.tm_mon = 11;
-    r.tm_mday = 400; /* carries the year past the 32-bit range */
-    CHECK_EQ(mktime(&r), -1);
-    /* Days carried into 2038 are out of range although time_t reaches them. */
-    r = fields(2037, 12, 31, 0, 0, 0);
-    r.tm_mday = 31 + 19;
-    r.tm_hour = 3;
-    r.tm_min = 14;
-    r.tm_sec = 7;
-    CHECK_EQ(mktime(&r), -1);
+    const irow limits[] = {
+        IR(make(2037, 12, 31, 23, 59, 59), 2145916799), IR(make(1903, 1, 1, 0, 0, 0), -2114380800),
+        IR(make(2038, 1, 1, 0, 0, 0), -1), IR(make(1902, 12, 31, 23, 59, 59), -1),
+        IR(make(2037, 13, 1, 0, 0, 0), -1), IR(make(2037, 12, 32, 0, 0, 0), -1),  /* into 2038 */
+        IR(make(1970, 1, -100000, 0, 0, 0), -1),
+        IR(make(1970, 1, 24855, 0, 0, 0), -1),   /* folds into 2038 */
+        IR(make(2037, 1, 365, 0, 0, 0), 2145830400), IR(make(1970, 1, -24854, 0, 0, 0), -24855 * 86400),
+        IR(make(1970, 1, -24855, 0, 0, 0), -1),  /* day number -24856 */
+        IR(make(2037, 12, 31, 0, 0, 0), 2145830400),
+        /* pushed past the range through the carries */
+        IR(make(2037, 12, 31, 23, 59, 60 * 24 * 3600), -1),
+        IR(make_tm((struct tm){.tm_mday = 1, .tm_mon = INT_MAX, .tm_year = 70}), -1),
+        IR(make_tm((struct tm){.tm_mday = 1, .tm_year = INT_MIN}), -1),
+        IR(make_tm((struct tm){.tm_mday = 1, .tm_year = INT_MAX}), -1),
+        IR(make_tm((struct tm){.tm_mday = INT_MIN, .tm_year = 70}), -1),
+        /* year INT_MAX - 1 after 1970, carried past the 32-bit range */
+        IR(make_tm((struct tm){.tm_mday = 400, .tm_mon = 11, .tm_year = INT_MIN + 68}), -1),
+        /* days carried into 2038 are out of range although time_t reaches them */
+        IR(make(2037, 12, 31 + 19, 3, 14, 7), -1),
+    };
+    CHECK_IROWS(limits);
 
     t_section("asctime and ctime");
     t = 0;
@@ -187,7 +135,7 @@ int main(void) {
     CHECK(ctime(&t) == text); /* one static buffer */
     t = INT_MIN;
     CHECK_STR(ctime(&t), "Fri Dec 13 20:45:52 1901\n");
-    r = fields(1999, 12, 5, 9, 8, 7);
+    struct tm r = fields(1999, 12, 5, 9, 8, 7);
     r.tm_wday = 0;
     CHECK_STR(asctime(&r), "Sun Dec  5 09:08:07 1999\n");
     r.tm_mday = INT_MIN, r.tm_hour = INT_MAX, r.tm_min = -5, r.tm_year = INT_MAX - 1900;

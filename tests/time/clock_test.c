@@ -9,33 +9,33 @@
 
 #define EPOCH 116444736000000000ULL
 
-static FILETIME ft_of(unsigned long long v) {
-    FILETIME ft;
-    ft.dwLowDateTime = (DWORD)v;
-    ft.dwHighDateTime = (DWORD)(v >> 32);
-    return ft;
-}
-
+static FILETIME ft_of(unsigned long long v) { FILETIME ft = {(DWORD)v, (DWORD)(v >> 32)}; return ft; }
 static unsigned long long value(FILETIME ft) {
     return ((unsigned long long)ft.dwHighDateTime << 32) | ft.dwLowDateTime;
 }
-
-static void freeze(unsigned long long v) {
-    FILETIME ft = ft_of(v);
-    k32_set_clock(&ft);
-}
-
-static SYSTEMTIME date(int y, int mon, int d, int h, int mi, int s, int ms) {
-    SYSTEMTIME st = {0};
-    st.wYear = (WORD)y, st.wMonth = (WORD)mon, st.wDay = (WORD)d;
-    st.wHour = (WORD)h, st.wMinute = (WORD)mi, st.wSecond = (WORD)s;
-    st.wMilliseconds = (WORD)ms;
-    return st;
-}
-
+static void freeze(unsigned long long v) { FILETIME ft = ft_of(v); k32_set_clock(&ft); }
 static int convert(unsigned long long v, time_t *t) {
     FILETIME ft = ft_of(v);
     return ConvertTime(&ft, t);
+}
+static BOOL fields_of(unsigned long long v, SYSTEMTIME *st) {
+    FILETIME ft = ft_of(v);
+    return FileTimeToSystemTime(&ft, st);
+}
+/* The local file time of v, or ~0 when the call fails. */
+static unsigned long long local_of(unsigned long long v) {
+    FILETIME ft = ft_of(v), local;
+    return FileTimeToLocalFileTime(&ft, &local) ? value(local) : ~0ULL;
+}
+
+static SYSTEMTIME date(int y, int mon, int d, int h, int mi, int s, int ms) {
+    SYSTEMTIME st = {(WORD)y, (WORD)mon, 0, (WORD)d, (WORD)h, (WORD)mi, (WORD)s, (WORD)ms};
+    return st;
+}
+/* The fields of a date and its day of the week. */
+static int same_time(const SYSTEMTIME *st, SYSTEMTIME want, int day_of_week) {
+    want.wDayOfWeek = (WORD)day_of_week;
+    return t_memeq(st, &want, sizeof want);
 }
 
 /* ConvertTime(ConvertTimeInverse(t)) == t across mktime's range. */
@@ -63,22 +63,20 @@ int main(void) {
     k32_set_time_zone("UTC0");
 
     t_section("seconds from the file time");
-    time_t t = 99;
-    freeze(EPOCH);
-    CHECK_EQ(time(NULL), 0);
-    freeze(EPOCH + 25000000);
-    CHECK_EQ(time(NULL), 2); /* 2.5 s truncated */
-    CHECK_EQ(time(&t), 2);
-    CHECK_EQ(t, 2);
-    freeze(EPOCH - 25000000);
-    CHECK_EQ(_orv_time(&t), -2); /* toward zero, not -3 */
-    CHECK_EQ(t, -2);
-    freeze(EPOCH + 2147483647ULL * 10000000 + 9999999);
-    CHECK_EQ(time(NULL), 2147483647);
-    freeze(EPOCH + 2147483648ULL * 10000000);
-    CHECK_EQ(time(NULL), -2147483647 - 1); /* past 2038 the count wraps */
-    freeze(0);
-    CHECK_EQ(time(NULL), (time_t)(unsigned long)(-11644473600LL));
+    /* 2.5 s truncated, toward zero, not -3; past 2038 the count wraps */
+    static const struct { int line; unsigned long long ft; time_t t; } seconds[] = {
+        {__LINE__, EPOCH, 0}, {__LINE__, EPOCH + 25000000, 2}, {__LINE__, EPOCH - 25000000, -2},
+        {__LINE__, EPOCH + 2147483647ULL * 10000000 + 9999999, 2147483647},
+        {__LINE__, EPOCH + 2147483648ULL * 10000000, -2147483647 - 1},
+        {__LINE__, 0, (time_t)(unsigned long)(-11644473600LL)}};
+    for (unsigned i = 0; i < sizeof seconds / sizeof seconds[0]; ++i) {
+        time_t t = 99, u = 99, want = seconds[i].t;
+        int line = seconds[i].line;
+        freeze(seconds[i].ft);
+        t_check_int(time(NULL), want, "time(NULL)", __FILE__, line);
+        t_check(time(&t) == want && t == want, "time(&t)", __FILE__, line);
+        t_check(_orv_time(&u) == want && u == want, "_orv_time(&u)", __FILE__, line);
+    }
 
     t_section("clock");
     freeze(EPOCH + 1000000000ULL * 10000000 + 9000000); /* x.900 */
@@ -98,25 +96,13 @@ int main(void) {
 
     t_section("stand-in calendar fields");
     SYSTEMTIME st;
-    FILETIME ft = ft_of(0), back;
-    CHECK(FileTimeToSystemTime(&ft, &st));
-    CHECK_EQ(st.wYear, 1601);
-    CHECK_EQ(st.wMonth, 1);
-    CHECK_EQ(st.wDay, 1);
-    CHECK_EQ(st.wDayOfWeek, 1);
-    ft = ft_of(EPOCH + 9999999);
-    CHECK(FileTimeToSystemTime(&ft, &st));
-    CHECK_EQ(st.wYear, 1970);
-    CHECK_EQ(st.wDayOfWeek, 4);
-    CHECK_EQ(st.wSecond, 0);
-    CHECK_EQ(st.wMilliseconds, 999);
-    ft = ft_of(0x8000000000000000ULL);
+    FILETIME ft, back;
+    CHECK(fields_of(0, &st) && same_time(&st, date(1601, 1, 1, 0, 0, 0, 0), 1));
+    CHECK(fields_of(EPOCH + 9999999, &st) && same_time(&st, date(1970, 1, 1, 0, 0, 0, 999), 4));
     SetLastError(0);
-    CHECK(!FileTimeToSystemTime(&ft, &st));
+    CHECK(!fields_of(0x8000000000000000ULL, &st));
     CHECK_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
-    ft = ft_of(0x7FFFFFFFFFFFFFFFULL);
-    CHECK(FileTimeToSystemTime(&ft, &st));
-    CHECK_EQ(st.wYear, 30828);
+    CHECK(fields_of(0x7FFFFFFFFFFFFFFFULL, &st) && st.wYear == 30828);
     st = date(2000, 2, 29, 23, 59, 59, 999);
     CHECK(SystemTimeToFileTime(&st, &ft));
     CHECK_HEX(value(ft), EPOCH + 951868799ULL * 10000000 + 9990000);
@@ -130,58 +116,40 @@ int main(void) {
         {2000, 1, 0, 1, 0, 0, 0, 1000}};
     for (unsigned i = 0; i < sizeof bad / sizeof bad[0]; ++i) CHECK(!SystemTimeToFileTime(&bad[i], &ft));
     int bad_trips = 0; /* fields and back, over four centuries of odd steps */
-    for (unsigned long long v = 0; v < 0x0300000000000000ULL; v += 0x0000123456789ABCULL) {
-        ft = ft_of(v);
-        if (!FileTimeToSystemTime(&ft, &st) || !SystemTimeToFileTime(&st, &back) ||
-            value(back) != v - v % 10000)
-            ++bad_trips;
-    }
+    for (unsigned long long v = 0; v < 0x0300000000000000ULL; v += 0x0000123456789ABCULL)
+        bad_trips +=
+            !fields_of(v, &st) || !SystemTimeToFileTime(&st, &back) || value(back) != v - v % 10000;
     CHECK_EQ(bad_trips, 0);
     freeze(EPOCH + 951868799ULL * 10000000 + 1234567);
     GetSystemTime(&st);
-    CHECK_EQ(st.wYear, 2000);
-    CHECK_EQ(st.wMonth, 2);
-    CHECK_EQ(st.wDay, 29);
-    CHECK_EQ(st.wHour, 23);
-    CHECK_EQ(st.wMilliseconds, 123);
+    CHECK(same_time(&st, date(2000, 2, 29, 23, 59, 59, 123), 2));
     GetSystemTimeAsFileTime(&ft);
     CHECK_HEX(value(ft), EPOCH + 951868799ULL * 10000000 + 1234567);
 
     t_section("local file times follow the offset in force now");
     k32_set_time_zone("XST5XDT,J1/0,J365/25");
-    ft = ft_of(EPOCH);
-    CHECK(FileTimeToLocalFileTime(&ft, &back));
-    CHECK_HEX(value(back), EPOCH - 4ULL * 3600 * 10000000);
-    CHECK(LocalFileTimeToFileTime(&back, &ft));
-    CHECK_HEX(value(ft), EPOCH);
+    CHECK_HEX(local_of(EPOCH), EPOCH - 4ULL * 3600 * 10000000);
+    back = ft_of(EPOCH - 4ULL * 3600 * 10000000);
+    CHECK(LocalFileTimeToFileTime(&back, &ft) && value(ft) == EPOCH);
     GetLocalTime(&st);
-    CHECK_EQ(st.wDay, 29);
-    CHECK_EQ(st.wHour, 19);
+    CHECK(same_time(&st, date(2000, 2, 29, 19, 59, 59, 123), 2));
     k32_set_time_zone("EST5EDT");
     freeze(EPOCH + 1610000000ULL * 10000000); /* January 2021: standard time */
-    ft = ft_of(EPOCH);
-    CHECK(FileTimeToLocalFileTime(&ft, &back));
-    CHECK_HEX(value(back), EPOCH - 5ULL * 3600 * 10000000);
+    CHECK_HEX(local_of(EPOCH), EPOCH - 5ULL * 3600 * 10000000);
 
     t_section("ConvertTime and ConvertTimeInverse");
     k32_set_time_zone("UTC0");
-    t = 77;
-    CHECK_EQ(convert(EPOCH, &t), 1);
-    CHECK_EQ(t, 0);
-    CHECK_EQ(convert(EPOCH + 25000000, &t), 1);
-    CHECK_EQ(t, 2);
+    time_t t = 77;
+    CHECK(convert(EPOCH + 25000000, &t) == 1 && t == 2);
     st = date(1900, 1, 1, 0, 0, 0, 0);
-    CHECK(SystemTimeToFileTime(&st, &ft));
     t = 77;
-    CHECK_EQ(ConvertTime(&ft, &t), 1); /* out of mktime's range: -1 is a success */
-    CHECK_EQ(t, -1);
+    /* out of mktime's range: -1 is a success */
+    CHECK(SystemTimeToFileTime(&st, &ft) && ConvertTime(&ft, &t) == 1 && t == -1);
     t = 77;
-    CHECK_EQ(convert(0xFFFFFFFFFFFFFFFFULL, &t), 0); /* no calendar fields for it */
-    CHECK_EQ(t, 77);
-    CHECK_EQ(file_round_trips(), 0);
-    /* The last rule's winter period is the one it names as daylight time,
-       an hour behind its standard time. */
-    static const char *const zones[] = {"EST5", "XST5XDT,J1/0,J365/25", "<+0530>-5:30",
+    CHECK(convert(0xFFFFFFFFFFFFFFFFULL, &t) == 0 && t == 77); /* no calendar fields for it */
+    /* In UTC and zones west and east; the last rule's winter period is
+       the one it names as daylight time, an hour behind its standard time. */
+    static const char *const zones[] = {"UTC0", "EST5", "XST5XDT,J1/0,J365/25", "<+0530>-5:30",
                                         "CET-1CEST,M3.5.0,M10.5.0/3", "IST-1GMT0,M10.5.0,M3.5.0/1"};
     static const unsigned long long seasons[] = {1625140800ULL, 1610000000ULL}; /* July, January 2021 */
     for (unsigned i = 0; i < sizeof zones / sizeof zones[0]; ++i) {
@@ -189,16 +157,13 @@ int main(void) {
         for (unsigned s = 0; s < 2; ++s) {
             freeze(EPOCH + seasons[s] * 10000000);
             t = 0;
-            CHECK(ConvertTimeInverse(&t, &ft));
-            CHECK_HEX(value(ft), EPOCH); /* whatever the bias */
-            CHECK_EQ(convert(EPOCH, &t), 1);
-            CHECK_EQ(t, 0);
+            CHECK(ConvertTimeInverse(&t, &ft) && value(ft) == EPOCH); /* whatever the bias */
+            CHECK(convert(EPOCH, &t) == 1 && t == 0);
             CHECK_EQ(file_round_trips(), 0);
         }
     }
 
     t_section("platform line");
-    CHECK_EQ(IsWinNT(), 1);
-    CHECK_EQ(GetVersion() >> 31, 0);
+    CHECK(IsWinNT() == 1 && GetVersion() >> 31 == 0);
     return t_finish();
 }

@@ -5,15 +5,7 @@
 #include "harness.h"
 
 static struct tm at(int year, int mon, int mday, int hour, int min, int sec, int wday, int yday) {
-    struct tm r = {0};
-    r.tm_year = year - 1900;
-    r.tm_mon = mon - 1;
-    r.tm_mday = mday;
-    r.tm_hour = hour;
-    r.tm_min = min;
-    r.tm_sec = sec;
-    r.tm_wday = wday;
-    r.tm_yday = yday;
+    struct tm r = {sec, min, hour, mday, mon - 1, year - 1900, wday, yday, 0, {0, 0}};
     return r;
 }
 
@@ -34,15 +26,11 @@ int main(void) {
     CHECK_STR(fmt("%c", &leap_day), "Sun Feb 29 13:05:09 2004\n");
     CHECK_STR(fmt("%x", &leap_day), "Sun Feb 29, 2004");
     CHECK_STR(fmt("[%X]", &leap_day), "[13:05:09 ]");
-    CHECK_EQ(strftime(out, sizeof out, "%c", &leap_day), 25);
     struct tm epoch = at(1970, 1, 1, 0, 0, 0, 4, 0);
     char *text = asctime(&epoch);
     fmt("%c", &leap_day);
     CHECK_STR(text, "Sun Feb 29 13:05:09 2004\n"); /* %c goes through asctime's buffer */
     CHECK_STR(fmt("date: %d.%m.%Y", &leap_day), "date: 29.02.2004");
-    struct tm early = at(1970, 1, 1, 0, 0, 0, 4, 0);
-    CHECK_STR(fmt("%x", &early), "Thu Jan  1, 1970");
-    CHECK_STR(fmt("%Y %y %j %w", &early), "1970 70 001 4");
 
     t_section("names");
     static const char *const longs[7] = {"Sunday",   "Monday", "Tuesday", "Wednesday",
@@ -60,8 +48,6 @@ int main(void) {
         n += (unsigned)strftime(all + n, sizeof all - n, "%B ", &r);
     }
     CHECK_STR(all, months);
-    struct tm sep = at(2000, 9, 1, 0, 0, 0, 5, 244);
-    CHECK_STR(fmt("%a %b", &sep), "Fri Sep");
 
     t_section("12-hour clock");
     static const struct { int hour; const char *text; } clock12[] = {
@@ -70,43 +56,45 @@ int main(void) {
         struct tm r = at(2000, 1, 1, clock12[i].hour, 0, 0, 6, 0);
         CHECK_STR(fmt("%I %p", &r), clock12[i].text);
     }
-    struct tm noon = at(2000, 1, 1, 12, 0, 0, 6, 0);
-    CHECK_STR(fmt("%X", &noon), "12:00:00 ");
 
-    t_section("day of year and digits");
-    struct tm last = at(2000, 12, 31, 0, 0, 0, 0, 365);
-    CHECK_STR(fmt("%j", &last), "366");
-    struct tm y2k = at(2000, 1, 1, 0, 0, 0, 6, 0);
-    CHECK_STR(fmt("%y %w", &y2k), "00 6");
-    struct tm odd = at(10123, 1, -3, -1, 7, 75, 0, 0); /* out-of-range fields */
-    CHECK_STR(fmt("%Y %d %H %M %S", &odd), "0123 00 00 07 75");
-    struct tm before = at(1899, 1, 1, 0, 0, 0, 0, 0);
-    CHECK_STR(fmt("%y", &before), "00");
-
-    t_section("week numbers");
-    struct tm r = at(1995, 1, 1, 0, 0, 0, 0, 0); /* a Sunday */
-    CHECK_STR(fmt("%U %W", &r), "00 00");
-    r = at(1995, 1, 2, 0, 0, 0, 1, 1);
-    CHECK_STR(fmt("%U %W", &r), "00 00");
-    r = at(1995, 1, 8, 0, 0, 0, 0, 7);
-    CHECK_STR(fmt("%U %W", &r), "01 00");
-    r = at(1995, 1, 9, 0, 0, 0, 1, 8);
-    CHECK_STR(fmt("%U %W", &r), "01 01");
-    r = at(1995, 12, 31, 0, 0, 0, 0, 364);
-    CHECK_STR(fmt("%U %W", &r), "52 51"); /* Monday weeks: this one began on 25 December */
-    r = at(1994, 1, 1, 0, 0, 0, 6, 0); /* a Saturday: the week began in 1993 */
-    CHECK_STR(fmt("%U %W", &r), "00 00");
-    r = at(1994, 1, 2, 0, 0, 0, 0, 1); /* a week starting on 2 January is week 0 */
-    CHECK_STR(fmt("%U", &r), "00");
-    r = at(1999, 1, 3, 0, 0, 0, 0, 2); /* one starting on 3 January is week 1 */
-    CHECK_STR(fmt("%U", &r), "01");
-    r = at(1999, 1, 4, 0, 0, 0, 1, 3);
-    CHECK_STR(fmt("%W", &r), "01");
+    t_section("one conversion at a time");
+    const struct { int line; struct tm r; const char *format, *want; } cases[] = {
+        {__LINE__, at(1970, 1, 1, 0, 0, 0, 4, 0), "%x", "Thu Jan  1, 1970"},
+        {__LINE__, at(1970, 1, 1, 0, 0, 0, 4, 0), "%Y %y %j %w", "1970 70 001 4"},
+        {__LINE__, at(2000, 9, 1, 0, 0, 0, 5, 244), "%a %b", "Fri Sep"},
+        {__LINE__, at(2000, 1, 1, 12, 0, 0, 6, 0), "%X", "12:00:00 "},
+        /* day of year and the digit rule, with out-of-range fields */
+        {__LINE__, at(2000, 12, 31, 0, 0, 0, 0, 365), "%j", "366"},
+        {__LINE__, at(2000, 1, 1, 0, 0, 0, 6, 0), "%y %w", "00 6"},
+        {__LINE__, at(10123, 1, -3, -1, 7, 75, 0, 0), "%Y %d %H %M %S", "0123 00 00 07 75"},
+        {__LINE__, at(1899, 1, 1, 0, 0, 0, 0, 0), "%y", "00"},
+        /* week numbers; 1 January 1995 is a Sunday */
+        {__LINE__, at(1995, 1, 1, 0, 0, 0, 0, 0), "%U %W", "00 00"},
+        {__LINE__, at(1995, 1, 2, 0, 0, 0, 1, 1), "%U %W", "00 00"},
+        {__LINE__, at(1995, 1, 8, 0, 0, 0, 0, 7), "%U %W", "01 00"},
+        {__LINE__, at(1995, 1, 9, 0, 0, 0, 1, 8), "%U %W", "01 01"},
+        /* Monday weeks: this one began on 25 December */
+        {__LINE__, at(1995, 12, 31, 0, 0, 0, 0, 364), "%U %W", "52 51"},
+        /* a Saturday: the week began in 1993 */
+        {__LINE__, at(1994, 1, 1, 0, 0, 0, 6, 0), "%U %W", "00 00"},
+        /* a week starting on 2 January is week 0, on 3 January week 1 */
+        {__LINE__, at(1994, 1, 2, 0, 0, 0, 0, 1), "%U", "00"},
+        {__LINE__, at(1999, 1, 3, 0, 0, 0, 0, 2), "%U", "01"},
+        {__LINE__, at(1999, 1, 4, 0, 0, 0, 1, 3), "%W", "01"},
+        /* a last % ends the format; an unknown conversion adds nothing */
+        {__LINE__, at(1970, 1, 1, 0, 0, 0, 4, 0), "ab%", "ab"},
+        {__LINE__, at(1970, 1, 1, 0, 0, 0, 4, 0), "<%Q>", "<>"},
+        {__LINE__, at(1970, 1, 1, 0, 0, 0, 4, 0), "%Y%Q", "1970"},
+        {__LINE__, at(1970, 1, 1, 0, 0, 0, 4, 0), "%Z%%%Z", "%"},
+    };
+    for (unsigned i = 0; i < sizeof cases / sizeof cases[0]; ++i)
+        t_check_str(fmt(cases[i].format, &cases[i].r), cases[i].want, cases[i].format, __FILE__,
+                    cases[i].line);
 
     t_section("size limits");
     struct tm y = at(1970, 1, 1, 0, 0, 0, 4, 0);
     const char *volatile empty = "";
-    for (int i = 0; i < 16; ++i) out[i] = '#';
+    t_memset(out, '#', 16);
     CHECK_EQ(strftime(out, 5, "%Y", &y), 4);
     CHECK_MEM(out, 6, "1970\0#", 6);
     CHECK_EQ(strftime(out, 4, "%Y", &y), 0);
@@ -115,19 +103,14 @@ int main(void) {
     CHECK_STR(out, "abc");
     CHECK_EQ(strftime(out, 6, "ab%Y", &y), 0); /* the conversion no longer fits */
     CHECK_EQ(strftime(out, 7, "ab%Y", &y), 6);
-    for (int i = 0; i < 16; ++i) out[i] = '#';
+    t_memset(out, '#', 16);
     CHECK_EQ(strftime(out, 1, "x", &y), 0);
     CHECK_EQ(strftime(out, 0, empty, &y), 0);
     CHECK_EQ(out[0], '#'); /* nothing stored */
     CHECK_EQ(strftime(out, 1, empty, &y), 0);
     CHECK_EQ(out[0], 0);
-    CHECK_EQ(strftime(out, 26, "%c", &y), 25);
+    CHECK_EQ(strftime(out, 26, "%c", &y), 25); /* 24 characters and the newline */
     CHECK_EQ(strftime(out, 25, "%c", &y), 0);
 
-    t_section("odd formats");
-    CHECK_STR(fmt("ab%", &y), "ab"); /* a last % ends the format */
-    CHECK_STR(fmt("<%Q>", &y), "<>"); /* an unknown conversion adds nothing */
-    CHECK_STR(fmt("%Y%Q", &y), "1970");
-    CHECK_STR(fmt("%Z%%%Z", &y), "%");
     return t_finish();
 }

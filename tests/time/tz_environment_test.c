@@ -25,21 +25,14 @@ static int report(void) {
     DWORD state = GetTimeZoneInformation(&info);
     time_t t = 0;
     struct tm *r = localtime(&t);
-    char line[64];
-    unsigned n = 0;
+    char line[] = "+000 0 00\n";
     long bias = info.Bias < 0 ? -info.Bias : info.Bias;
-    line[n++] = info.Bias < 0 ? '-' : '+';
-    line[n++] = (char)('0' + bias / 100 % 10);
-    line[n++] = (char)('0' + bias / 10 % 10);
-    line[n++] = (char)('0' + bias % 10);
-    line[n++] = ' ';
-    line[n++] = (char)('0' + (int)state);
-    line[n++] = ' ';
-    line[n++] = (char)('0' + r->tm_hour / 10);
-    line[n++] = (char)('0' + r->tm_hour % 10);
-    line[n++] = '\n';
+    line[0] = info.Bias < 0 ? '-' : '+';
+    for (int i = 3; i >= 1; --i, bias /= 10) line[i] = (char)('0' + bias % 10);
+    line[5] = (char)('0' + (int)state);
+    line[7] = (char)('0' + r->tm_hour / 10), line[8] = (char)('0' + r->tm_hour % 10);
     DWORD done;
-    WriteFile(GetStdHandle(STD_OUTPUT_HANDLE), line, n, &done, 0);
+    WriteFile(GetStdHandle(STD_OUTPUT_HANDLE), line, sizeof line - 1, &done, 0);
     return 0;
 }
 
@@ -47,8 +40,7 @@ static t_child child;
 
 static void expect(const char *entry, const char *line, unsigned len) {
     t_run_child(&child, run_with, (void *)entry, "", 0);
-    CHECK(child.exited);
-    CHECK_EQ(child.status, 0);
+    CHECK(child.exited && child.status == 0);
     CHECK_MEM(child.out, child.out_len, line, len);
 }
 

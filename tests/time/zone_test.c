@@ -5,6 +5,7 @@
 #include "harness.h"
 #include "platform/kernel32.h"
 #include "platform/linux/time_control.h"
+#include "timecheck.h"
 
 #define ALL_YEAR "XST5XDT,J1/0,J365/25"
 
@@ -22,24 +23,6 @@ static int wide_is(const WCHAR *w, const char *s) {
     return *w == 0;
 }
 
-/* Fields of the record as one comparable text: "Y-M-D h:m:s wday yday isdst". */
-static const char *text_of(const struct tm *r) {
-    static char buf[64];
-    char *p = buf;
-    const int v[9] = {r->tm_year + 1900, r->tm_mon + 1, r->tm_mday, r->tm_hour, r->tm_min,
-                      r->tm_sec, r->tm_wday, r->tm_yday, r->tm_isdst};
-    static const char sep[] = "-- ::   ";
-    for (int i = 0; i < 9; ++i) {
-        char d[12];
-        int n = 0, x = v[i];
-        do d[n++] = (char)('0' + x % 10); while (x /= 10);
-        while (n) *p++ = d[--n];
-        if (i < 8) *p++ = sep[i];
-    }
-    *p = 0;
-    return buf;
-}
-
 static const char *local_text(time_t t) { return text_of(localtime(&t)); }
 
 /* mktime(localtime(t)) gives t back for a spread of times. */
@@ -53,43 +36,34 @@ static int round_trips(void) {
     return bad;
 }
 
+#define CET "CET-1CEST,M3.5.0,M10.5.0/3"
+#define AEST "AEST-10AEDT,M10.1.0,M4.1.0/3"
+#define IST "IST-1GMT0,M10.5.0,M3.5.0/1"
+
 static const struct {
     const char *rule;
     int y, mon, d, h, mi, s;
     DWORD state;
 } states[] = {
-    {ALL_YEAR, 2021, 1, 15, 12, 0, 0, 2},
-    {ALL_YEAR, 2021, 12, 31, 23, 59, 59, 2},
-    {ALL_YEAR, 2020, 2, 29, 0, 0, 0, 2},
-    {ALL_YEAR, 2022, 1, 1, 4, 30, 0, 2},
+    {ALL_YEAR, 2021, 1, 15, 12, 0, 0, 2}, {ALL_YEAR, 2021, 12, 31, 23, 59, 59, 2},
+    {ALL_YEAR, 2020, 2, 29, 0, 0, 0, 2}, {ALL_YEAR, 2022, 1, 1, 4, 30, 0, 2},
     {"EST5", 2021, 7, 1, 0, 0, 0, 0},
     /* a dst name alone: second Sunday of March to first of November, 02:00 */
-    {"EST5EDT", 2021, 3, 14, 6, 59, 59, 1},
-    {"EST5EDT", 2021, 3, 14, 7, 0, 0, 2},
-    {"EST5EDT", 2021, 11, 7, 5, 59, 59, 2},
-    {"EST5EDT", 2021, 11, 7, 6, 0, 0, 1},
-    {"CET-1CEST,M3.5.0,M10.5.0/3", 2021, 3, 28, 0, 59, 59, 1},
-    {"CET-1CEST,M3.5.0,M10.5.0/3", 2021, 3, 28, 1, 0, 0, 2},
-    {"CET-1CEST,M3.5.0,M10.5.0/3", 2021, 10, 31, 0, 59, 59, 2},
-    {"CET-1CEST,M3.5.0,M10.5.0/3", 2021, 10, 31, 1, 0, 0, 1},
+    {"EST5EDT", 2021, 3, 14, 6, 59, 59, 1}, {"EST5EDT", 2021, 3, 14, 7, 0, 0, 2},
+    {"EST5EDT", 2021, 11, 7, 5, 59, 59, 2}, {"EST5EDT", 2021, 11, 7, 6, 0, 0, 1},
+    {CET, 2021, 3, 28, 0, 59, 59, 1}, {CET, 2021, 3, 28, 1, 0, 0, 2},
+    {CET, 2021, 10, 31, 0, 59, 59, 2}, {CET, 2021, 10, 31, 1, 0, 0, 1},
     /* southern: daylight across the turn of the year */
-    {"AEST-10AEDT,M10.1.0,M4.1.0/3", 2021, 1, 15, 0, 0, 0, 2},
-    {"AEST-10AEDT,M10.1.0,M4.1.0/3", 2021, 7, 15, 0, 0, 0, 1},
-    {"AEST-10AEDT,M10.1.0,M4.1.0/3", 2021, 4, 3, 15, 59, 59, 2},
-    {"AEST-10AEDT,M10.1.0,M4.1.0/3", 2021, 4, 3, 16, 0, 0, 1},
-    {"AEST-10AEDT,M10.1.0,M4.1.0/3", 2021, 10, 2, 15, 59, 59, 1},
-    {"AEST-10AEDT,M10.1.0,M4.1.0/3", 2021, 10, 2, 16, 0, 0, 2},
+    {AEST, 2021, 1, 15, 0, 0, 0, 2}, {AEST, 2021, 7, 15, 0, 0, 0, 1},
+    {AEST, 2021, 4, 3, 15, 59, 59, 2}, {AEST, 2021, 4, 3, 16, 0, 0, 1},
+    {AEST, 2021, 10, 2, 15, 59, 59, 1}, {AEST, 2021, 10, 2, 16, 0, 0, 2},
     /* daylight time named behind standard: the period ahead counts as daylight */
-    {"IST-1GMT0,M10.5.0,M3.5.0/1", 2021, 1, 15, 0, 0, 0, 1},
-    {"IST-1GMT0,M10.5.0,M3.5.0/1", 2021, 3, 28, 0, 59, 59, 1},
-    {"IST-1GMT0,M10.5.0,M3.5.0/1", 2021, 3, 28, 1, 0, 0, 2},
-    {"IST-1GMT0,M10.5.0,M3.5.0/1", 2021, 10, 31, 0, 59, 59, 2},
-    {"IST-1GMT0,M10.5.0,M3.5.0/1", 2021, 10, 31, 1, 0, 0, 1},
+    {IST, 2021, 1, 15, 0, 0, 0, 1}, {IST, 2021, 3, 28, 0, 59, 59, 1},
+    {IST, 2021, 3, 28, 1, 0, 0, 2}, {IST, 2021, 10, 31, 0, 59, 59, 2},
+    {IST, 2021, 10, 31, 1, 0, 0, 1},
     /* zero-based days count 29 February, J days never do */
-    {"AAA3BBB,59/0,300", 2020, 2, 29, 2, 59, 59, 1},
-    {"AAA3BBB,59/0,300", 2020, 2, 29, 3, 0, 0, 2},
-    {"AAA3BBB,J60/0,J300", 2020, 2, 29, 3, 0, 0, 1},
-    {"AAA3BBB,J60/0,J300", 2020, 3, 1, 3, 0, 0, 2},
+    {"AAA3BBB,59/0,300", 2020, 2, 29, 2, 59, 59, 1}, {"AAA3BBB,59/0,300", 2020, 2, 29, 3, 0, 0, 2},
+    {"AAA3BBB,J60/0,J300", 2020, 2, 29, 3, 0, 0, 1}, {"AAA3BBB,J60/0,J300", 2020, 3, 1, 3, 0, 0, 2},
 };
 
 int main(void) {
@@ -116,13 +90,11 @@ int main(void) {
     CHECK(on->wYear == 2020 && on->wMonth == 3 && on->wDay == 1); /* a date of this year */
     static const struct { const char *rule; LONG bias, daylight; } biases[] = {
         {"AAA3BBB2,J60/0,J300", 180, -60}, {"AAA3BBB1:30,J60/0,J300", 180, -90},
-        {"<+0330>-3:30", -210, 0},         {"CET-1CEST,M3.5.0,M10.5.0/3", -60, -60},
-        {"IST-1GMT0,M10.5.0,M3.5.0/1", 0, -60}};
+        {"<+0330>-3:30", -210, 0}, {CET, -60, -60}, {IST, 0, -60}};
     for (unsigned i = 0; i < sizeof biases / sizeof biases[0]; ++i) {
         k32_set_time_zone(biases[i].rule);
         GetTimeZoneInformation(&info);
-        CHECK_EQ(info.Bias, biases[i].bias);
-        CHECK_EQ(info.DaylightBias, biases[i].daylight);
+        CHECK(info.Bias == biases[i].bias && info.DaylightBias == biases[i].daylight);
         CHECK_EQ(info.StandardBias, 0);
     }
     CHECK(wide_is(info.StandardName, "GMT") && wide_is(info.DaylightName, "IST"));
@@ -130,8 +102,7 @@ int main(void) {
                                       "EST5EDT,M3.2.0", "EST25", "", ":No/Such_Zone"};
     for (unsigned i = 0; i < sizeof bad / sizeof bad[0]; ++i) {
         k32_set_time_zone(bad[i]); /* what is not a rule is UTC */
-        CHECK_EQ(GetTimeZoneInformation(&info), TIME_ZONE_ID_UNKNOWN);
-        CHECK_EQ(info.Bias, 0);
+        CHECK(GetTimeZoneInformation(&info) == TIME_ZONE_ID_UNKNOWN && info.Bias == 0);
     }
     if (t_exists("/usr/share/zoneinfo/America/New_York")) {
         static const char *const names[] = {"America/New_York", ":America/New_York",
@@ -145,8 +116,7 @@ int main(void) {
             CHECK_EQ(GetTimeZoneInformation(&info), TIME_ZONE_ID_STANDARD);
         }
         k32_set_time_zone("Etc/GMT+5"); /* a file shorter than the tail that is read */
-        CHECK_EQ(GetTimeZoneInformation(&info), TIME_ZONE_ID_UNKNOWN);
-        CHECK_EQ(info.Bias, 300);
+        CHECK(GetTimeZoneInformation(&info) == TIME_ZONE_ID_UNKNOWN && info.Bias == 300);
     } else {
         t_note("no zone files here: zone-file checks skipped");
     }
@@ -156,8 +126,7 @@ int main(void) {
     clock_at(2021, 1, 15, 12, 0, 0); /* midwinter */
     CHECK_EQ(GetTimeZoneInformation(&info), TIME_ZONE_ID_DAYLIGHT);
     CHECK(wide_is(info.StandardName, "XST") && wide_is(info.DaylightName, "XDT"));
-    CHECK_EQ(gettz(&zone), 0);
-    CHECK(zone.tz_minuteswest == 300 && zone.tz_dsttime == 60);
+    CHECK(gettz(&zone) == 0 && zone.tz_minuteswest == 300 && zone.tz_dsttime == 60);
     CHECK_EQ(_dstoff_(), 60);
     CHECK_STR(local_text(0), "1969-12-31 20:0:0 3 364 60");
     time_t t = 0;
@@ -175,8 +144,7 @@ int main(void) {
 
     t_section("standard time and zones without daylight saving");
     k32_set_time_zone("EST5");
-    CHECK_EQ(gettz(&zone), 0);
-    CHECK(zone.tz_minuteswest == 300 && zone.tz_dsttime == 0);
+    CHECK(gettz(&zone) == 0 && zone.tz_minuteswest == 300 && zone.tz_dsttime == 0);
     CHECK_EQ(_dstoff_(), 0);
     CHECK_STR(local_text(0), "1969-12-31 19:0:0 3 364 0");
     r = *gmtime(&t);
@@ -198,8 +166,7 @@ int main(void) {
     k32_set_time_zone(ALL_YEAR);
     k32_fail_time_zone(1, 1);
     zone.tz_minuteswest = 1234;
-    CHECK_EQ(gettz(&zone), -1);
-    CHECK_EQ(zone.tz_minuteswest, 1234); /* left alone */
+    CHECK(gettz(&zone) == -1 && zone.tz_minuteswest == 1234); /* left alone */
     CHECK_EQ(gettz(&zone), 0);
     k32_fail_time_zone(1, 1);
     CHECK_EQ(_dstoff_(), 0);
